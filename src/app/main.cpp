@@ -1,0 +1,5 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+int main() {
+    return 0;
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Vector.h"
+
+#include <string>
+
+namespace bc {
+
+/// Something that receives the keyboard and the mouse while it is the current target.
+/// Positions are window pixels from the top left; button numbers are SDL's.
+class InputTarget {
+  public:
+    virtual ~InputTarget() = default;
+    virtual void mouseMove(float x, float y, float relX, float relY) {
+        mouseX = x;
+        mouseY = y;
+        mouseRelX = relX;
+        mouseRelY = relY;
+    }
+    virtual void mouseDown(float, float, int) {}
+    virtual void mouseUp(float, float, int) {}
+    virtual void keyDown(int /*sym*/, int /*unicode*/, const std::string& /*keyName*/) {}
+    virtual void keyUp(int /*sym*/, int /*unicode*/, const std::string& /*keyName*/) {}
+    /// True for a target that works in overlay coordinates (mouse2D).
+    [[nodiscard]] virtual bool getUses2D() const { return uses2D; }
+    virtual void onLoseFocus() {}
+    virtual void onGainFocus() {}
+
+    float mouseX = 0;
+    float mouseY = 0;
+    float mouseRelX = 0;
+    float mouseRelY = 0;
+    /// Handed over by the input manager before each mouseMove.
+    Vector mouseWorld;
+    Vector mouse2D;
+    bool uses2D = false;
+};
+
+}  // namespace bc

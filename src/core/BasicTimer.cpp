@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "core/BasicTimer.h"
+
+#include "core/Text.h"
+#include "core/Ticks.h"
+
+#include <vector>
+
+namespace bc {
+
+void BasicTimer::restart() {
+    rate = 1000;
+    running = true;
+    start = current = previous = ticksNow();
+}
+
+void BasicTimer::tick() {
+    previous = current;
+    current = ticksNow();
+}
+
+void BasicTimer::pause() {
+    pauseTime = current;
+    paused = true;
+}
+
+void BasicTimer::resume() {
+    paused = false;
+    const float now = ticksNow();
+    start = now - (pauseTime - start);
+    previous = now - (pauseTime - previous);
+    current = now;
+}
+
+std::string BasicTimer::toString() const {
+    return formatFloat(start) + ',' + formatFloat(current) + ',' + formatFloat(previous) + ',' +
+           formatFloat(rate) + ',' + boolText(running);
+}
+
+void BasicTimer::fromString(std::string_view text) {
+    std::vector<std::string> fields;
+    tokenise(",", text, fields);
+    if (fields.size() >= 5) {
+        start = parseFloat(fields[0]);
+        current = parseFloat(fields[1]);
+        previous = parseFloat(fields[2]);
+        rate = parseFloat(fields[3]);
+        running = parseBool(fields[4]);
+    }
+    const float now = ticksNow();
+    start = now - (current - start);
+    previous = now - (current - previous);
+    current = now;
+}
+
+}  // namespace bc

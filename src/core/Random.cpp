@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "core/Random.h"
+
+#include <cmath>
+
+namespace bc {
+
+namespace {
+
+// A linear congruential generator modulo 2^32 (multiplier and increment of Knuth's MMIX line,
+// low half); the upper bits are the good ones and only they are handed out.
+constexpr std::uint32_t multiplier = 1664525U;
+constexpr std::uint32_t increment = 1013904223U;
+
+std::uint32_t state = 1;
+
+}  // namespace
+
+void seedRandom(std::uint32_t seed) {
+    // Neighbouring seeds give unlike sequences only after the bits have been spread.
+    seed ^= seed >> 16;
+    seed *= 0x7feb352dU;
+    seed ^= seed >> 15;
+    state = seed;
+}
+
+std::uint32_t randomState() {
+    return state;
+}
+void setRandomState(std::uint32_t value) {
+    state = value;
+}
+
+int randomInt() {
+    state = state * multiplier + increment;
+    return static_cast<int>(state >> 17);
+}
+
+float randomRange(float lo, float hi) {
+    if (lo == 0 && hi == 0)
+        return 0;
+    return lo + (hi - lo) * static_cast<float>(randomInt()) / 32768.0F;
+}
+
+Vector randomDirection() {
+    const float theta = (randomRange(0, 360) + 90) * 3.1415927F / 180;
+    return {-std::cos(theta), -std::sin(theta)};
+}
+
+}  // namespace bc

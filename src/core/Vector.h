@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace bc {
+
+/// A position, direction or velocity in world units (or units a second). y grows upwards; z is
+/// depth and only orders what is drawn. w takes part in the arithmetic but never in text.
+struct Vector {
+    float x = 0;
+    float y = 0;
+    float z = 0;
+    float w = 0;
+
+    constexpr Vector() = default;
+    constexpr Vector(float px, float py, float pz = 0) : x(px), y(py), z(pz) {}
+    explicit Vector(std::string_view text) { fromString(text); }
+
+    /// "x,y,z" in general float notation.
+    [[nodiscard]] std::string toString() const;
+    /// Reads "x,y" (z stays) or "x,y,z"; anything with fewer numbers changes nothing.
+    void fromString(std::string_view text);
+
+    constexpr void set(const Vector& v) { set(v.x, v.y, v.z); }
+    constexpr void set(float px, float py) { set(px, py, 0); }
+    constexpr void set(float px, float py, float pz) {
+        x = px;
+        y = py;
+        z = pz;
+    }
+    [[nodiscard]] constexpr bool equals(const Vector& v) const {
+        return x == v.x && y == v.y && z == v.z && w == v.w;
+    }
+    [[nodiscard]] constexpr bool isZero() const { return x == 0 && y == 0 && z == 0 && w == 0; }
+
+    constexpr Vector& operator+=(const Vector& v) {
+        x += v.x;
+        y += v.y;
+        z += v.z;
+        w += v.w;
+        return *this;
+    }
+    constexpr Vector& operator-=(const Vector& v) {
+        x -= v.x;
+        y -= v.y;
+        z -= v.z;
+        w -= v.w;
+        return *this;
+    }
+    constexpr Vector& operator*=(float k) {
+        x *= k;
+        y *= k;
+        z *= k;
+        w *= k;
+        return *this;
+    }
+    /// Length over all four components.
+    [[nodiscard]] float length() const;
+    /// Scales to length 1; a zero vector stays zero.
+    void normalise();
+};
+
+constexpr Vector operator+(Vector a, const Vector& b) {
+    return a += b;
+}
+constexpr Vector operator-(Vector a, const Vector& b) {
+    return a -= b;
+}
+constexpr Vector operator*(Vector a, float k) {
+    return a *= k;
+}
+constexpr Vector operator*(float k, Vector a) {
+    return a *= k;
+}
+
+[[nodiscard]] Vector normalised(Vector v);
+/// Length of b - a over all components.
+[[nodiscard]] float distance(const Vector& a, const Vector& b);
+/// Distance and squared distance in the plane of play (x and y only).
+[[nodiscard]] float planarDistance(const Vector& a, const Vector& b);
+[[nodiscard]] float planarDistanceSquared(const Vector& a, const Vector& b);
+/// Places out at a + (b - a) * t. Outside 0..1 out becomes the nearer end and the result is false.
+bool pointAlongSegment(const Vector& a, const Vector& b, float t, Vector& out);
+
+}  // namespace bc
