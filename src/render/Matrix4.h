@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <optional>
+
+namespace bc {
+
+/// A 4 x 4 transformation for column vectors, stored column by column as OpenGL wants it.
+/// Double precision: places are found by inverting products of these.
+struct Matrix4 {
+    std::array<double, 16> m{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+
+    [[nodiscard]] double at(int row, int column) const {
+        return m[static_cast<std::size_t>(column * 4 + row)];
+    }
+
+    /// As gluPerspective and glOrtho define them; fovDegrees is the full vertical angle.
+    [[nodiscard]] static Matrix4 perspective(double fovDegrees, double aspect, double nearDistance,
+                                             double farDistance);
+    [[nodiscard]] static Matrix4 ortho(double left, double right, double bottom, double top,
+                                       double nearDistance, double farDistance);
+
+    // Each one multiplies from the right, so that it applies before what is already there.
+    void translate(double x, double y, double z);
+    void scale(double k);
+    /// Counter-clockwise about the depth axis.
+    void rotateZ(double radians);
+
+    [[nodiscard]] std::array<double, 4> transform(double x, double y, double z, double w) const;
+    /// Nothing when the matrix cannot be inverted.
+    [[nodiscard]] std::optional<Matrix4> inverse() const;
+
+    friend bool operator==(const Matrix4&, const Matrix4&) = default;
+};
+
+[[nodiscard]] Matrix4 operator*(const Matrix4& a, const Matrix4& b);
+
+}  // namespace bc
