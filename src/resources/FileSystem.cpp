@@ -1,0 +1,214 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "resources/FileSystem.h"
+
+#include "core/Log.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace bc::files {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Folders {
+    std::string user = ".";
+    std::string data = ".";
+};
+
+Folders& folders() {
+    static Folders instance;
+    return instance;
+}
+
+/// An open file that closes itself; -1 is none.
+class Descriptor {
+  public:
+    explicit Descriptor(int fd) : fd_(fd) {}
+    ~Descriptor() {
+        if (fd_ >= 0)
+            ::close(fd_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    [[nodiscard]] int get() const { return fd_; }
+    /// False when the last of what was written could not be kept.
+    [[nodiscard]] bool close() {
+        const int fd = fd_;
+        fd_ = -1;
+        return ::close(fd) == 0;
+    }
+
+  private:
+    int fd_;
+};
+
+bool isRegularFile(const std::string& path) {
+    struct stat info {};
+    return ::stat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode);
+}
+
+bool writeWhole(int fd, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t n = ::write(fd, bytes.data(), bytes.size());
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(n));
+    }
+    return true;
+}
+
+bool writeNewFile(const std::string& path, std::string_view contents) {
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    return file.get() >= 0 && writeWhole(file.get(), contents) && file.close();
+}
+
+bool flushToDisk(const std::string& path, int flags) {
+    Descriptor file(::open(path.c_str(), flags | O_CLOEXEC));
+    return file.get() >= 0 && ::fsync(file.get()) == 0;
+}
+
+void logFailure(const std::string& what, std::string_view name, int error) {
+    logLine(what + " " + std::string(name) + ": " + std::strerror(error));
+}
+
+bool isControl(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte < 32 || byte == 127;
+}
+
+/// As it may appear in the log: on one line.
+std::string printable(std::string_view name) {
+    std::string out(name);
+    std::replace_if(out.begin(), out.end(), isControl, '?');
+    return out;
+}
+
+}  // namespace
+
+void setFolders(const std::string& userFolder, const std::string& dataFolder) {
+    folders().user = userFolder.empty() ? "." : userFolder;
+    folders().data = dataFolder.empty() ? "." : dataFolder;
+}
+const std::string& userFolder() {
+    return folders().user;
+}
+const std::string& dataFolder() {
+    return folders().data;
+}
+
+bool isSafeName(std::string_view name) {
+    if (name.empty() || name.front() == '/')
+        return false;
+    if (std::any_of(name.begin(), name.end(), isControl))
+        return false;
+    while (!name.empty()) {
+        const std::size_t slash = std::min(name.find('/'), name.size());
+        if (name.substr(0, slash) == "..")
+            return false;
+        name.remove_prefix(std::min(slash + 1, name.size()));
+    }
+    return true;
+}
+
+std::optional<std::string> resolve(std::string_view name) {
+    if (!isSafeName(name))
+        return std::nullopt;
+    for (const std::string* folder : {&folders().user, &folders().data}) {
+        std::string path = *folder + '/' + std::string(name);
+        if (isRegularFile(path))
+            return path;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> writable(std::string_view name) {
+    if (!isSafeName(name)) {
+        logLine("Refused file name: " + printable(name));
+        return std::nullopt;
+    }
+    std::string path = folders().user + '/' + std::string(name);
+    std::error_code error;
+    fs::create_directories(fs::path(path).parent_path(), error);
+    if (error) {
+        logFailure("Could not make the folder of", name, error.value());
+        return std::nullopt;
+    }
+    return path;
+}
+
+std::optional<std::string> readAll(std::string_view name, std::uint64_t maxBytes) {
+    const std::optional<std::string> path = resolve(name);
+    if (!path)
+        return std::nullopt;
+    const Descriptor file(::open(path->c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat info {};
+    if (file.get() < 0 || ::fstat(file.get(), &info) != 0)
+        return std::nullopt;
+    if (static_cast<std::uint64_t>(info.st_size) > maxBytes)
+        return std::nullopt;
+    std::string contents(static_cast<std::size_t>(info.st_size), '\0');
+    std::size_t have = 0;
+    while (have < contents.size()) {
+        const ssize_t n = ::read(file.get(), contents.data() + have, contents.size() - have);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            return std::nullopt;
+        if (n == 0)
+            break;
+        have += static_cast<std::size_t>(n);
+    }
+    contents.resize(have);
+    return contents;
+}
+
+bool replace(std::string_view name, std::string_view contents) {
+    return replaceBy(name, [&](const std::string& temporaryPath) {
+        return writeNewFile(temporaryPath, contents);
+    });
+}
+
+bool replaceBy(std::string_view name,
+               const std::function<bool(const std::string& temporaryPath)>& writer) {
+    const std::optional<std::string> path = writable(name);
+    if (!path)
+        return false;
+    const std::string temporary = *path + ".new";
+    ::unlink(temporary.c_str());  // left behind by a crash
+    errno = 0;
+    // The bytes must be on the disk before the name points at them, and the folder's entry
+    // after that: only then does a crash at any moment leave one whole file.
+    if (writer(temporary) && flushToDisk(temporary, O_WRONLY) &&
+        ::rename(temporary.c_str(), path->c_str()) == 0) {
+        flushToDisk(fs::path(*path).parent_path().string(), O_RDONLY | O_DIRECTORY);
+        return true;
+    }
+    const int error = errno;
+    ::unlink(temporary.c_str());
+    logFailure("Could not write", name, error != 0 ? error : EIO);
+    return false;
+}
+
+bool append(std::string_view name, std::string_view text) {
+    const std::optional<std::string> path = writable(name);
+    if (!path)
+        return false;
+    Descriptor file(::open(path->c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
+    if (file.get() >= 0 && writeWhole(file.get(), text) && file.close())
+        return true;
+    logFailure("Could not append to", name, errno);
+    return false;
+}
+
+}  // namespace bc::files
