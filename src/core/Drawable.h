@@ -44,6 +44,30 @@ class Drawable {
     std::vector<RGBAColour> colours;
     std::vector<TexCoord> texCoords;
 
+    std::string texture;
+    std::string glowTexture;
+
+    // For labels and dumps.
+    std::string type = "default";
+    std::string id = "generic";
+
+    RGBAColour outlinecolour;
+    int outlinewidth = 1;
+
+    // Texture mapping numbers of the level file; stored and written back, drawn with as they
+    // stand in the corners' texture coordinates.
+    float texhshift = 0;
+    float texvshift = 0;
+    float texhscale = 1;
+    float texvscale = 1;
+    float texrotate = 0;
+
+    /// The renderer's id of texture, -1 when it is still to be fetched by name.
+    int textureHandle = -1;
+    /// With a glow texture: how many additive passes of it lie over the body, each fainter.
+    int glowSteps = 0;
+
+    // From here on what every simulation step reads stands last, beside what it reads of Body.
     /// World units. Between two simulation steps it lies between the old and the new position.
     Vector renderpos;
     /// Radians, clockwise as seen by the player (world.x = x cos + y sin).
@@ -54,33 +78,11 @@ class Drawable {
 
     bool visible = true;
     bool outlined = true;
-    int outlinewidth = 1;
-    RGBAColour outlinecolour;
-
-    // Texture mapping numbers of the level file; stored and written back, drawn with as they
-    // stand in the corners' texture coordinates.
-    float texhshift = 0;
-    float texvshift = 0;
-    float texhscale = 1;
-    float texvscale = 1;
-    float texrotate = 0;
-
     bool textured = false;
     /// True: the texture's edge pixels do not wrap round (sprites); false: it tiles.
     bool clampTexture = false;
-    std::string texture;
-    /// The renderer's id of texture, -1 when it is still to be fetched by name.
-    int textureHandle = -1;
-
     /// Drawn in the bloom pass as well.
     bool hasGlow = false;
-    /// With a glow texture: how many additive passes of it lie over the body, each fainter.
-    int glowSteps = 0;
-    std::string glowTexture;
-
-    // For labels and dumps.
-    std::string type = "default";
-    std::string id = "generic";
 };
 
 }  // namespace bc

@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Drawable.h"
+#include "world/BRect.h"
+#include "world/TouchInfo.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+class TiXmlElement;
+
+namespace bc {
+
+class BodyParticleSystemObserver;
+class CollisionShape;
+class ParticleSystem;
+class QuadTree;
+struct QuadTreeNode;
+
+/// Everything that is in a level derives from it: geometry, doors, pickups, enemies, projectiles,
+/// the player. Owned by the World it was added to (the player by the application).
+/// Units: world units, seconds, radians; level times in milliseconds.
+///
+/// Its polygon is localVertices around pos. Collisions use it as it stands, drawing and traces
+/// (worldVertices) use it turned by angle. Whoever changes localVertices calls updateGeometry and,
+/// where the size changes, computeBounds.
+class alignas(64) Body : public Drawable {
+  public:
+    /// A body of less mass is static: it moves only when it is a nonmassmover.
+    static constexpr float minMass = 0.0001F;
+    /// No force or impulse makes a body faster (units a second).
+    static constexpr float maxSpeed = 950;
+    /// Positions and velocities beyond it do not enter the world.
+    static constexpr float maxCoordinate = 1.0e6F;
+
+    Body();
+    /// Lets go of its particle systems (they stop) and leaves the spatial index.
+    ~Body() override;
+    Body(const Body&) = delete;
+    Body& operator=(const Body&) = delete;
+
+    /// A new object of the same class and type, with that class's defaults.
+    [[nodiscard]] virtual std::unique_ptr<Body> create() const;
+
+    // Geometry.
+    /// Replaces the polygon by a rectangle centred on pos.
+    void makeBox(float width, float height, const RGBAColour& colour);
+    void makeBox(float width, float height);
+    /// Replaces the polygon by a circle of corners, one a step of 360 / circleCorners degrees.
+    void makeCircle(float circleRadius);
+    static constexpr int circleCorners = 16;
+    virtual void makeDefaultShape();
+    /// Drops every corner, colour and texture coordinate.
+    void clearGeometry();
+    /// Appends a corner in world coordinates; makeLocalVertices then makes the polygon of them.
+    void addWorldVertex(float x, float y, float z = 0);
+    /// localVertices = the world corners minus pos.
+    void makeLocalVertices();
+    /// Places the world corners by pos and angle.
+    void updateGeometry();
+    /// The corners as of the last updateGeometry.
+    [[nodiscard]] const std::vector<Vector>& worldVertices() const;
+    /// Signed; positive for corners that run anticlockwise on screen (y up).
+    [[nodiscard]] float polygonArea() const;
+    /// Centre of area of the world corners; of a polygon without area the mean of its corners, of
+    /// one without corners the origin.
+    [[nodiscard]] Vector centroid() const;
+    /// Bounds and radius from the world corners (the radius never shrinks).
+    void computeBounds();
+    /// Bounds for the motion of the next dt seconds.
+    void updateSweptBounds(float dt);
+    /// True overlap of the swept bounds; touching edges do not count.
+    [[nodiscard]] bool overlaps(const Body& other) const;
+
+    // Motion.
+    [[nodiscard]] bool isMassive() const { return mass >= minMass; }
+    /// pos, renderpos, oldpos and projectedpos. A place that is not finite is ignored.
+    void setPosition(const Vector& v);
+    /// vel += force * invMass * scale, then the speed limit; static bodies ignore it.
+    void applyForce(const Vector& force, float scale);
+    /// vel += v, then the speed limit; static bodies ignore it.
+    void addVelocity(const Vector& v);
+    /// One step of motion, dt seconds.
+    void move(float dt);
+
+    // Contacts.
+    void touch(Body& other, Body& self, const Vector& normal, float t, const Vector& point);
+    /// Called for each contact in the collision phase, up to once for either body's turn, also when
+    /// nothing solid is involved. May spawn bodies and mark them for removal.
+    virtual void onTouch(const TouchInfo&) {}
+    /// A contact is solid when both bodies are solid and accept each other.
+    [[nodiscard]] virtual bool acceptsCollision(const Body&) const { return true; }
+
+    // Targets.
+    void addTarget(Body* body);
+    /// Takes out the first occurrence.
+    void removeTarget(Body* body);
+
+    // Life.
+    virtual void die() {}
+    /// Called by the gameplay controller while thinks is set, whenever nextthink has passed.
+    virtual void think(float /*dt*/) {}
+    /// Called by the gameplay controller in every simulation step, before the world moves.
+    virtual void update(float /*dt*/) {}
+    /// The free-form attributes of the level file. A class reads those it knows and passes the map
+    /// on to its base first.
+    virtual void applyAttributes(const std::map<std::string, std::string>& attributes);
+    /// Called by the loader for each body, in this order, once all bodies of the level are in the
+    /// world: onBeforeTargets, (targets are resolved), onLoaded, onRestored or onSpawned (from a
+    /// save or from a level file), onAfterLoad. Not called for bodies spawned during play.
+    virtual void onBeforeTargets() {}
+    virtual void onLoaded() {}
+    virtual void onRestored() {}
+    virtual void onSpawned() {}
+    virtual void onAfterLoad() {}
+    /// Another body leaves the world for good: called on every body that stays (and on the one that
+    /// goes, with itself). Overrides drop every pointer to it they keep, and call this one, which
+    /// drops it from targetBodies.
+    virtual void onBodyRemoved(const Body& gone);
+
+    // Attached particle systems follow renderpos. They are not owned.
+    void attachParticleSystem(ParticleSystem& system);
+    void detachParticleSystem(ParticleSystem& system);
+    /// Tells every attached system to stop, each after its own remaining life, and lets them go.
+    void detachAllParticleSystems();
+    void updateParticleSystems();
+    [[nodiscard]] const std::vector<ParticleSystem*>& particleSystems() const {
+        return particleSystems_;
+    }
+
+    // Text forms.
+    void setTexture(const std::string& name);
+    /// One line for the log.
+    [[nodiscard]] std::string describe() const;
+    /// State attributes of a save. What is missing reads as loadState's contract for each kind:
+    /// vectors stay, bools are false, numbers 0. Values beyond maxCoordinate are refused.
+    virtual void loadState(const TiXmlElement& e);
+    virtual void saveState(TiXmlElement& e) const;
+    /// Adds what the type keeps to the debug element of a world dump; overrides call their base.
+    virtual void dumpState(TiXmlElement& debug) const;
+
+  private:
+    friend class QuadTree;
+    friend class World;
+
+    // Where it is in the spatial index; null when it is not.
+    QuadTreeNode* node_ = nullptr;
+    std::uint32_t slot_ = 0;
+    float geometryAngle_ = 0;
+
+  public:
+    // The order of the fields from here is that of the simulation: what a phase of the step uses
+    // lies together.
+    alignas(64) Vector pos;
+    Vector vel;
+    /// vel as it was at the start of the step; moves use it.
+    Vector frozenvel;
+    float invMass = 0.01F;
+    float gravitymultiplier = 1;
+    /// Stands on something: set by the collision phase, cleared at the start of the next one.
+    bool contact = false;
+    /// False: moves and collides only within 800 units of the player.
+    bool alwaysActive = true;
+    /// The world deletes the body in its next move phase.
+    bool cancleanup = false;
+    bool solid = true;
+    /// Moves although it is static (lifts, doors).
+    bool nonmassmover = false;
+    bool inliquid = false;
+    bool inliquidlastframe = false;
+    /// A dynamic object: numbered by the loader and kept in saves.
+    bool entity = false;
+
+    BRect bounds;
+
+    /// pos before the last move.
+    Vector oldpos;
+    /// Added to every move whatever the forces.
+    Vector constantvelocity;
+    /// pos + vel * dt of the last bounds update.
+    Vector projectedpos;
+    /// Largest distance of a corner from pos seen so far.
+    float radius = 0;
+    /// radius and the way of the step.
+    float sweptRadius = 0;
+    /// Factor on the motion while in a liquid.
+    float liquidfriction = 0;
+    /// Sliding friction coefficient.
+    float friction = 0.01F;
+
+  private:
+    // Box of the turned polygon around the place where updateGeometry last put it.
+    float boxMinX_ = 0;
+    float boxMaxX_ = 0;
+    float boxMinY_ = 0;
+    float boxMaxY_ = 0;
+    float geometryX_ = 0;
+    float geometryY_ = 0;
+    std::vector<ParticleSystem*> particleSystems_;
+    mutable bool worldVerticesStale_ = false;
+    bool dying_ = false;
+
+  public:
+    /// In view as of the last gathering of the visible bodies.
+    bool inView = false;
+    bool placed = false;
+    /// Restitution.
+    float bounce = 0.05F;
+    /// Below this tangential speed friction stops sliding altogether.
+    float staticFrictionSpeed = 0.1F;
+
+    std::int32_t autoid = 0;
+    /// Kind number that collision filters and triggers ask for (1 is the player).
+    std::int32_t category = 0;
+    /// Names of the bodies it acts on, comma-separated, as the level file gives them.
+    std::string targets;
+    /// The bodies of those names (not owned). Changed through addTarget and removeTarget.
+    std::vector<Body*> targetBodies;
+
+    bool isfiring = false;
+    bool thinks = false;
+    /// Level time (ms) after which think is called next.
+    float nextthink = 0;
+    /// Milliseconds between two calls of think.
+    float thinkInterval = 200;
+
+    /// The loader shifts the texture coordinates so that the smallest are 0.
+    bool normalisedTexCoords = false;
+    /// The loader replaces the level polygon by makeDefaultShape.
+    bool usesDefaultShape = false;
+    float defaultWidth = 16;
+    float defaultHeight = 16;
+
+    /// Shown in the debug text.
+    Vector camera;
+    /// The free-form attributes it was read with, written back with it.
+    std::map<std::string, std::string> customAttributes;
+
+  private:
+    void replaceByBox(float width, float height, const RGBAColour& colour);
+    void limitSpeed();
+    void refreshShape();
+    void placeBox();
+    void sweepBounds(float dt);
+
+    std::shared_ptr<const CollisionShape> shape_;
+    mutable std::vector<Vector> worldVertices_;
+    std::unique_ptr<BodyParticleSystemObserver> observer_;
+};
+
+}  // namespace bc

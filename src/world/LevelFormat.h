@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "world/Body.h"
+
+#include <memory>
+
+class TiXmlElement;
+
+namespace bc {
+
+class BodyCreator;
+
+// One object of a level file: the element P with the children params, verts, attributes and, in
+// saves, custom.
+namespace levelformat {
+
+/// More are refused, with a log line: levels have some hundreds of bodies with a few corners.
+inline constexpr int maxBodies = 20000;
+inline constexpr int maxCorners = 64;
+
+/// Null for an entity when skipEntities is set, and, with a log line, for a body with too many
+/// corners or with corners that are no places (not finite, beyond Body::maxCoordinate).
+[[nodiscard]] std::unique_ptr<Body> readBody(BodyCreator& factory, const TiXmlElement& e,
+                                             bool skipEntities);
+/// Appends a P element, with the state in custom. Returns it.
+TiXmlElement* writeBody(const Body& body, TiXmlElement& parent);
+
+}  // namespace levelformat
+}  // namespace bc

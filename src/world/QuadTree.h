@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Vector.h"
+#include "world/Trace.h"
+
+#include <cstdint>
+#include <functional>
+#include <iosfwd>
+#include <memory>
+#include <vector>
+
+namespace bc {
+
+class Body;
+class Frustum;
+class IRenderer;
+class QuadTreeStore;
+struct QuadTreeNode;
+
+/// The spatial index of a level: a square cut into quarters as bodies crowd. A body is stored in
+/// the smallest node that contains its whole polygon. Bodies are not owned; a body that is deleted
+/// leaves the tree by itself.
+///
+/// Results come in a fixed order that play depends on: a node before its quarters, the quarters in
+/// their order (upper left, upper right, lower left, lower right), in a node the bodies in the
+/// order in which they came in, where a body that is re-inserted comes in anew.
+class QuadTree {
+  public:
+    /// A leaf holds this many; the next one splits it, unless it is an entity.
+    static constexpr int leafCapacity = 20;
+    /// Nodes of less than twice this side (world units) are not split by crowding.
+    static constexpr float minNodeSize = 64;
+    static constexpr int maxDepth = 16;
+
+    QuadTree();
+    ~QuadTree();
+    QuadTree(const QuadTree&) = delete;
+    QuadTree& operator=(const QuadTree&) = delete;
+
+    /// Starts anew with a square of side size around centre, cut depth times. False, with an empty
+    /// tree, for a depth below 0 or above maxDepth and for numbers that are not finite.
+    bool init(const Vector& centre, float size, int depth);
+    /// No nodes, no bodies.
+    void clear();
+    [[nodiscard]] bool isEmpty() const { return root_ == nullptr; }
+    [[nodiscard]] const Vector& centre() const { return centre_; }
+    [[nodiscard]] float size() const { return size_; }
+    /// False: leaves take in any number of bodies.
+    void setSplittable(bool splittable) { splittable_ = splittable; }
+
+    /// False when the body's polygon is not wholly inside the square; it is then in no node.
+    bool insert(Body& body);
+    /// Nothing happens when it is not in the tree.
+    void remove(Body& body);
+    /// After a move: takes it out and inserts it again, at the end of its node's list.
+    bool reinsert(Body& body);
+    /// Every corner inside the square or on its border; a body without corners is contained.
+    [[nodiscard]] bool contains(const Body& body) const;
+
+    /// Appends the bodies whose swept bounds overlap body's, itself included; for a static body
+    /// only massive ones.
+    void queryCandidates(const Body& body, std::vector<Body*>& out) const;
+    /// Appends the bodies whose pos is within their sweptRadius + radius of the point.
+    void queryRadius(const Vector& point, float radius, std::vector<Body*>& out) const;
+    /// Appends a hit for each body whose outline the ray crosses, at the first crossing.
+    void trace(const Ray& ray, TraceResults& out, bool includeNonSolid = false) const;
+    /// Appends the bodies in view and sets every body's inView. cullNodes: leaves out whole nodes
+    /// out of view; cullBodies: tests each body's bounds as well.
+    void gatherVisible(const Frustum& view, bool cullNodes, bool cullBodies,
+                       std::vector<Body*>& out);
+
+    // Of the last gathering.
+    [[nodiscard]] int visitedNodes() const { return visitedNodes_; }
+    [[nodiscard]] int consideredBodies() const { return consideredBodies_; }
+    [[nodiscard]] int gatheredBodies() const { return gatheredBodies_; }
+
+    /// Node outlines and centres as lines at a depth, each level fainter.
+    void drawDebug(IRenderer& renderer, float depth, float alpha = 255) const;
+    /// Nodes with centre, size and the ids of their bodies, in order.
+    void dump(std::ostream& out) const;
+
+    struct NodeView {
+        float centreX, centreY, size;
+        int depth;
+        bool leaf;
+        /// In list order.
+        const std::vector<Body*>& bodies;
+    };
+    /// Visits every node, in search order. Not for hot paths.
+    void forEachNode(const std::function<void(const NodeView&)>& visit) const;
+    [[nodiscard]] int nodeCount() const;
+    /// Depth of the node the body is stored in (the root has 0), -1 when it is in none.
+    [[nodiscard]] static int depthOf(const Body& body);
+
+  private:
+    friend class Body;
+
+    /// The body's bounds changed.
+    static void boundsChanged(const Body& body);
+    /// The body's polygon changed or moved.
+    static void geometryChanged(const Body& body);
+
+    bool insertAt(QuadTreeNode& node, Body& body);
+    void split(QuadTreeNode& node);
+    [[nodiscard]] bool mayTakeMore(const QuadTreeNode& node, const Body& body) const;
+
+    std::unique_ptr<QuadTreeStore> store_;
+    QuadTreeNode* root_ = nullptr;
+    Vector centre_;
+    float size_ = 0;
+    bool splittable_ = true;
+    /// Grows with every insertion and orders the bodies of a node.
+    std::uint64_t sequence_ = 0;
+    mutable std::vector<Body*> listed_;
+    int visitedNodes_ = 0;
+    int consideredBodies_ = 0;
+    int gatheredBodies_ = 0;
+};
+
+}  // namespace bc
