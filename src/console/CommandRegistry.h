@@ -59,6 +59,7 @@ class CommandRegistry {
     std::string buffer_;
     ConsoleOutput* output_ = nullptr;
     int scriptDepth_ = 0;
+    int scriptRuns_ = 0;
 };
 
 /// The process-wide registry.
