@@ -43,6 +43,8 @@ function(brightclash_test name)
   endif()
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE brightclash_options ${ARG_LIBS} GTest::gmock_main)
+  # What tests share: "support/RecordingRenderer.h" and the like.
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE
     BRIGHTCLASH_GAME_DIR="${BRIGHTCLASH_GAME_DIR}" BRIGHTCLASH_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   if(ARG_DISPLAY)

@@ -68,20 +68,23 @@ class GameHUD final : public Hud {
     void onResize() override;
 
   private:
+    void buildFrame(std::string_view label, int x, int width, int height);
     void buildStatusColumn();
     void buildWeaponPanel();
     void buildWeaponStrip();
     void buildUpgradeScreen();
-    void addStripIcon(ImageHudItem& item, int x, int y, int width, int height,
-                      std::string_view image);
+    ImageHudItem* addStripIcon(std::string_view label, int x, int y, int width, int height,
+                               std::string_view image);
+    void placeStripMarker(int weaponId);
     void updateStatusColumn(const HudPlayer& player);
     void updateWeaponPanel(const HudPlayer& player);
     void updateWeaponStripAlpha();
     void setWeaponStripVisible(bool shown);
     void updateUpgradeColours();
     void showUpgradeScreen(bool shown);
-    void layOutUpgradeScreen();
     void drawLowHealthFlash(IRenderer& renderer, float dt);
+    [[nodiscard]] float designWidth(const TextHudItem& item, std::string_view text) const;
+    [[nodiscard]] float designHeight(const TextHudItem& item) const;
     [[nodiscard]] float now() const { return levelTimeMs_ ? levelTimeMs_() : 0.0F; }
 
     /// A value with the picture in front of it.

@@ -60,7 +60,7 @@ class SkyManager {
     /// Null when none is loaded.
     [[nodiscard]] const BaseSky* current() const { return current_; }
     [[nodiscard]] std::size_t loadedCount() const { return skies_.size(); }
-    /// Attributes current and fade, one child a loaded sky.
+    /// Attributes current and fading, one child a loaded sky.
     void dump(TiXmlElement& element) const;
 
     /// "data/sky/" + name + ".xml", or the name itself when it begins with "data/sky/".

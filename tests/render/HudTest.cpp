@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "render/Hud.h"
+#include "support/RecordingRenderer.h"
+
+#include <gtest/gtest.h>
+
+namespace bc {
+namespace {
+
+/// A Hud with one image item on the canvas.
+struct OneImage {
+    Hud hud;
+    ImageHudItem* item = nullptr;
+
+    OneImage(int x, int y, int width, int height) {
+        auto image = std::make_unique<ImageHudItem>("image");
+        item = image.get();
+        item->setPosition(x, y);
+        item->setSize(width, height);
+        item->setImage("a", ".png");
+        item->setColour(255, 255, 255, 200);
+        hud.addItem(std::move(image));
+    }
+};
+
+TEST(Hud, ScalesToTheWindowAndTruncates) {
+    struct Case {
+        int window[2];
+        int design[4];
+        int pixels[4];
+    };
+    for (const Case& c : {Case{{640, 480}, {19, 462, 16, 16}, {19, 462, 16, 16}},
+                          Case{{1280, 960}, {19, 462, 16, 16}, {38, 924, 32, 32}},
+                          Case{{800, 600}, {19, 462, 16, 16}, {23, 577, 20, 20}},
+                          Case{{1920, 1080}, {5, 470, 125, 60}, {15, 1057, 375, 135}},
+                          // Towards zero, also on the left of the canvas.
+                          Case{{800, 600}, {-19, -3, 1, 1}, {-23, -3, 1, 1}},
+                          // A window without extent is no reason to divide by nothing.
+                          Case{{0, 0}, {640, 480, 640, 480}, {1, 1, 1, 1}}}) {
+        OneImage one(c.design[0], c.design[1], c.design[2], c.design[3]);
+        one.hud.resize(c.window[0], c.window[1]);
+        const HudItem::Box& box = one.item->pixels();
+        EXPECT_EQ(box.x, c.pixels[0]);
+        EXPECT_EQ(box.y, c.pixels[1]);
+        EXPECT_EQ(box.width, c.pixels[2]);
+        EXPECT_EQ(box.height, c.pixels[3]);
+    }
+}
+
+TEST(Hud, PlacingMovesOnlyThePixelsUntilTheNextResize) {
+    OneImage one(10, 20, 16, 16);
+    one.hud.resize(1280, 960);
+    one.hud.placeItem(*one.item, 100, 200);
+    EXPECT_EQ(one.item->pixels().x, 200);
+    EXPECT_EQ(one.item->pixels().y, 400);
+    EXPECT_EQ(one.item->pixels().width, 32);
+    EXPECT_EQ(one.item->design().x, 10);
+    one.hud.resize(640, 480);
+    EXPECT_EQ(one.item->pixels().x, 10);
+}
+
+TEST(Hud, DrawsVisibleItemsInTheirOrderInOverlayMode) {
+    test::RecordingRenderer renderer;
+    OneImage one(0, 0, 1, 1);
+    auto add = [&](const char* text, bool visible, bool shadow) {
+        auto item = std::make_unique<TextHudItem>(text);
+        item->setText(text);
+        item->visible = visible;
+        item->shadow = shadow;
+        one.hud.addItem(std::move(item));
+    };
+    add("plain", true, false);
+    add("hidden", false, false);
+    add("shadowed", true, true);
+    one.hud.resize(640, 480);
+    one.hud.draw(renderer, 0);
+    ASSERT_EQ(renderer.calls.size(), 3U);
+    EXPECT_EQ(renderer.calls[0].text, "a.png");
+    EXPECT_EQ(renderer.calls[1].name + renderer.calls[1].text, "drawTextplain");
+    EXPECT_EQ(renderer.calls[2].name + renderer.calls[2].text, "drawShadowTextshadowed");
+    for (const test::DrawCall& call : renderer.calls)
+        EXPECT_TRUE(call.overlay);
+    EXPECT_FALSE(renderer.state.overlay);
+}
+
+TEST(ImageHudItem, GlowLaysFainterAdditiveCopiesOverThePicture) {
+    test::RecordingRenderer renderer;
+    OneImage one(0, 0, 1, 1);
+    one.item->glow = true;
+    one.item->clamp = true;
+    one.item->glowPasses = 3;
+    one.item->glowAlphaStep = 60;
+    one.item->draw(renderer, 0);
+    ASSERT_EQ(renderer.calls.size(), 4U);
+    EXPECT_FALSE(renderer.calls[0].additive);
+    EXPECT_EQ(renderer.calls[0].colour.a, 200);
+    const float alphas[] = {200, 140, 80};
+    for (std::size_t pass = 0; pass < 3; ++pass) {
+        const test::DrawCall& call = renderer.calls[pass + 1];
+        EXPECT_EQ(call.text, "a_glow.png");
+        EXPECT_TRUE(call.additive);
+        EXPECT_TRUE(call.clamp);
+        EXPECT_EQ(call.colour.a, alphas[pass]);
+    }
+}
+
+}  // namespace
+}  // namespace bc
