@@ -6,6 +6,14 @@
 
 namespace bc {
 
+/// An axis-aligned box; of nothing when min is above max.
+struct Box {
+    float minX;
+    float maxX;
+    float minY;
+    float maxY;
+};
+
 /// A body's box for the spatial index, in world units. minX..maxY are what is compared: the box of
 /// the polygon at its projected position, stretched back over the way it takes there.
 /// Filled by Body::computeBounds and Body::updateSweptBounds only, which also tell the index.

@@ -65,6 +65,11 @@ class alignas(64) Body : public Drawable {
     void updateGeometry();
     /// The corners as of the last updateGeometry.
     [[nodiscard]] const std::vector<Vector>& worldVertices() const;
+    /// The box around worldVertices, exactly; of nothing for a body without corners.
+    [[nodiscard]] Box worldBox() const {
+        return {boxMinX_ + geometryX_, boxMaxX_ + geometryX_, boxMinY_ + geometryY_,
+                boxMaxY_ + geometryY_};
+    }
     /// Signed; positive for corners that run anticlockwise on screen (y up).
     [[nodiscard]] float polygonArea() const;
     /// Centre of area of the world corners; of a polygon without area the mean of its corners, of
@@ -76,6 +81,8 @@ class alignas(64) Body : public Drawable {
     void updateSweptBounds(float dt);
     /// True overlap of the swept bounds; touching edges do not count.
     [[nodiscard]] bool overlaps(const Body& other) const;
+    /// The polygon as collisions use it; as of the last updateGeometry.
+    [[nodiscard]] const CollisionShape& shape() const { return *shape_; }
 
     // Motion.
     [[nodiscard]] bool isMassive() const { return mass >= minMass; }
@@ -118,10 +125,11 @@ class alignas(64) Body : public Drawable {
     virtual void onRestored() {}
     virtual void onSpawned() {}
     virtual void onAfterLoad() {}
-    /// Another body leaves the world for good: called on every body that stays (and on the one that
-    /// goes, with itself). Overrides drop every pointer to it they keep, and call this one, which
-    /// drops it from targetBodies.
+    /// Another body leaves the world for good: called on every body that stays. Overrides drop
+    /// every pointer to it that they keep, and call this one, which drops it from targetBodies.
     virtual void onBodyRemoved(const Body& gone);
+    /// It has left the world and is deleted when the pass that runs has ended.
+    [[nodiscard]] bool isGone() const { return gone_; }
 
     // Attached particle systems follow renderpos. They are not owned.
     void attachParticleSystem(ParticleSystem& system);
@@ -203,7 +211,7 @@ class alignas(64) Body : public Drawable {
     float geometryY_ = 0;
     std::vector<ParticleSystem*> particleSystems_;
     mutable bool worldVerticesStale_ = false;
-    bool dying_ = false;
+    bool gone_ = false;
 
   public:
     /// In view as of the last gathering of the visible bodies.
@@ -242,12 +250,19 @@ class alignas(64) Body : public Drawable {
     std::map<std::string, std::string> customAttributes;
 
   private:
-    void replaceByBox(float width, float height, const RGBAColour& colour);
-    void limitSpeed();
-    void refreshShape();
-    void placeBox();
-    void sweepBounds(float dt);
+    friend class BodyParticleSystemObserver;
 
+    void limitSpeed();
+    void gainVelocity(const Vector& v);
+    /// move without telling the index; false when it did not move.
+    bool advance(float dt);
+    /// updateGeometry for an unchanged polygon, without telling the index.
+    void followGeometry();
+    void turnBox();
+    void sweepBounds(float dt);
+    void forgetParticleSystem(ParticleSystem& system);
+
+    std::uint32_t ownedAt_ = 0;
     std::shared_ptr<const CollisionShape> shape_;
     mutable std::vector<Vector> worldVertices_;
     std::unique_ptr<BodyParticleSystemObserver> observer_;

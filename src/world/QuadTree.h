@@ -33,6 +33,8 @@ class QuadTree {
     /// Nodes of less than twice this side (world units) are not split by crowding.
     static constexpr float minNodeSize = 64;
     static constexpr int maxDepth = 16;
+    /// The most that init cuts at once.
+    static constexpr int maxInitialDepth = 6;
 
     QuadTree();
     ~QuadTree();
@@ -40,7 +42,8 @@ class QuadTree {
     QuadTree& operator=(const QuadTree&) = delete;
 
     /// Starts anew with a square of side size around centre, cut depth times. False, with an empty
-    /// tree, for a depth below 0 or above maxDepth and for numbers that are not finite.
+    /// tree, for a depth below 0 or above maxInitialDepth and for a square that reaches far beyond
+    /// Body::maxCoordinate.
     bool init(const Vector& centre, float size, int depth);
     /// No nodes, no bodies.
     void clear();
@@ -102,18 +105,24 @@ class QuadTree {
     /// The body's polygon changed or moved.
     static void geometryChanged(const Body& body);
 
-    bool insertAt(QuadTreeNode& node, Body& body);
+    static void removeFromItsTree(Body& body);
+    void insertAt(QuadTreeNode& node, Body& body);
+    void store(QuadTreeNode& node, Body& body);
+    void takeOut(QuadTreeNode& node, std::uint32_t slot);
     void split(QuadTreeNode& node);
-    [[nodiscard]] bool mayTakeMore(const QuadTreeNode& node, const Body& body) const;
+    void cut(QuadTreeNode& node);
+    [[nodiscard]] bool hasRoomFor(const Body& body, const QuadTreeNode& node,
+                                  std::uint32_t stored) const;
 
     std::unique_ptr<QuadTreeStore> store_;
     QuadTreeNode* root_ = nullptr;
     Vector centre_;
     float size_ = 0;
     bool splittable_ = true;
+    /// How far inside a node a body must be so that rounding cannot put it into a neighbour.
+    float rim_ = 0;
     /// Grows with every insertion and orders the bodies of a node.
     std::uint64_t sequence_ = 0;
-    mutable std::vector<Body*> listed_;
     int visitedNodes_ = 0;
     int consideredBodies_ = 0;
     int gatheredBodies_ = 0;

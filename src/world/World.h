@@ -26,12 +26,25 @@ class World {
     static constexpr std::int32_t playerId = 1;
     static constexpr std::int32_t playerCategory = 1;
 
+    /// While one lives, destroyed bodies are kept in memory; they are deleted with the last one.
+    class DeferredDeletion {
+      public:
+        explicit DeferredDeletion(World& world) : world_(world) { ++world_.deferrals_; }
+        ~DeferredDeletion();
+        DeferredDeletion(const DeferredDeletion&) = delete;
+        DeferredDeletion& operator=(const DeferredDeletion&) = delete;
+
+      private:
+        World& world_;
+    };
+
     World();
     ~World();
     World(const World&) = delete;
     World& operator=(const World&) = delete;
 
-    /// Not owned; the centre of the activity radius. Null: only alwaysActive bodies are moved.
+    /// Not owned, and outlives the world or its last clear; the centre of the activity radius.
+    /// Null: only alwaysActive bodies are moved.
     void setPlayer(Body* player) { player_ = player; }
     [[nodiscard]] Body* player() const { return player_; }
 
@@ -62,7 +75,7 @@ class World {
     /// Deleted by the next moveBodies.
     void markForRemoval(Body* body);
     /// Takes the body out of everything; every other body forgets it. A body the world owns is
-    /// deleted: at once, or at the end of the pass that is running.
+    /// deleted: at once, or when the pass that is running ends.
     void destroyBody(Body* body);
     /// Destroys every body but those of category 1.
     void deleteBodies();
@@ -89,14 +102,9 @@ class World {
     void sortVisible();
 
   private:
-    enum class Pass { none, interact, move };
-    class PassScope;
-
     [[nodiscard]] bool isNearPlayer(const Body& body) const;
-    void clearContacts();
     void interactAll(float step);
-    void forgetGoneBodies();
-    void release(std::vector<std::unique_ptr<Body>>& gone);
+    std::unique_ptr<Body> releaseOwned(Body* body);
 
     std::vector<Body*> allBodies_;
     std::vector<Body*> activeBodies_;
@@ -112,7 +120,7 @@ class World {
     std::size_t bodyCursor_ = 0;
     std::size_t candidateCursor_ = 0;
     std::int32_t nextBodyId_ = firstBodyId;
-    Pass pass_ = Pass::none;
+    int deferrals_ = 0;
 };
 
 }  // namespace bc

@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "world/LevelFormat.h"
+
+#include "core/Log.h"
+#include "core/Text.h"
+#include "resources/XmlAttributes.h"
+#include "world/BodyFactory.h"
+
+#include <tinyxml.h>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace bc::levelformat {
+
+namespace {
+
+// What a level calls static.
+constexpr float staticMass = 1e-7F;
+
+void readParams(Body& body, const TiXmlElement& e) {
+    body.targets = xml::readString(e, "targets");
+    body.solid = xml::readBool(e, "solid");
+    if (xml::has(e, "entity"))
+        body.entity = xml::readBool(e, "entity");
+    body.outlined = xml::readBool(e, "outlined");
+    xml::readValue(e, "outlinecolour", body.outlinecolour);
+    body.outlinewidth = xml::readInt(e, "outlinewidth");
+    body.texhscale = xml::readFloat(e, "texhscale");
+    body.texhshift = xml::readFloat(e, "texhshift");
+    body.texvscale = xml::readFloat(e, "texvscale");
+    body.texvshift = xml::readFloat(e, "texvshift");
+    body.texrotate = xml::readFloat(e, "texrotate");
+    body.setTexture(xml::readString(e, "texture"));
+    body.textured = xml::readBool(e, "textured");
+    body.visible = xml::readBool(e, "visible");
+    body.zShift = xml::readFloat(e, "z-shift");
+    const float mass = xml::readFloat(e, "mass");
+    body.mass = mass > staticMass ? mass : 0;
+    body.invMass = mass > staticMass ? 1 / mass : 0;
+}
+
+/// Numbers as people write them: not "nan", "inf" or hexadecimal, and no exponent that overflows.
+bool isNumberText(const std::string& token) {
+    if (token.find_first_not_of("+-.0123456789eE \t\r\n") != std::string::npos)
+        return false;
+    const std::size_t e = token.find_first_of("eE");
+    return e == std::string::npos || std::abs(parseInt(token.substr(e + 1))) <= 30;
+}
+
+/// A corner's place; nothing when it is no place in any level. Malformed text reads as the origin.
+std::optional<Vector> readOrigin(const std::string& text) {
+    std::vector<std::string> tokens;
+    tokenise(",", text, tokens);
+    if (tokens.size() < 2)
+        return Vector();
+    if (!std::all_of(tokens.begin(), tokens.begin() + 2, isNumberText))
+        return std::nullopt;
+    Vector origin;
+    origin.fromString(text);
+    const auto isFar = [](float c) { return std::fabs(c) > Body::maxCoordinate; };
+    if (isFar(origin.x) || isFar(origin.y) || isFar(origin.z))
+        return std::nullopt;
+    return origin;
+}
+
+/// Empty, or why the body is refused.
+std::string readCorners(Body& body, const TiXmlElement& e) {
+    int count = 0;
+    for (const TiXmlElement* verts = e.FirstChildElement("verts"); verts != nullptr;
+         verts = verts->NextSiblingElement("verts"))
+        for (const TiXmlElement* v = verts->FirstChildElement(); v != nullptr;
+             v = v->NextSiblingElement()) {
+            if (++count > maxCorners)
+                return "more than " + std::to_string(maxCorners) + " corners";
+            const std::string text = xml::readString(*v, "origin");
+            const std::optional<Vector> origin = readOrigin(text);
+            if (!origin)
+                return "corner at " + text;
+            body.addWorldVertex(origin->x, origin->y, origin->z);
+            RGBAColour colour;
+            xml::readValue(*v, "colour", colour);
+            body.colours.push_back(colour);
+            if (xml::has(*v, "texcoords")) {
+                TexCoord coord;
+                xml::readValue(*v, "texcoords", coord);
+                body.texCoords.push_back(coord);
+            }
+        }
+    return {};
+}
+
+void normaliseTexCoords(std::vector<TexCoord>& coords) {
+    if (coords.empty())
+        return;
+    TexCoord least = coords.front();
+    for (const TexCoord& coord : coords) {
+        least.u = std::min(least.u, coord.u);
+        least.v = std::min(least.v, coord.v);
+    }
+    for (TexCoord& coord : coords) {
+        coord.u -= least.u;
+        coord.v -= least.v;
+    }
+}
+
+void readAttributes(Body& body, const TiXmlElement& e) {
+    for (const TiXmlElement* list = e.FirstChildElement("attributes"); list != nullptr;
+         list = list->NextSiblingElement("attributes"))
+        for (const TiXmlElement* a = list->FirstChildElement(); a != nullptr;
+             a = a->NextSiblingElement())
+            body.customAttributes[xml::readString(*a, "name")] = xml::readString(*a, "value");
+    body.applyAttributes(body.customAttributes);
+}
+
+TiXmlElement* appendChild(TiXmlElement& parent, const char* name) {
+    return parent.LinkEndChild(new TiXmlElement(name))->ToElement();
+}
+
+}  // namespace
+
+std::unique_ptr<Body> readBody(BodyCreator& factory, const TiXmlElement& e, bool skipEntities) {
+    std::unique_ptr<Body> body = factory.create(xml::readString(e, "type"));
+    body->id = xml::readString(e, "idname");
+    if (const TiXmlElement* params = e.FirstChildElement("params")) {
+        readParams(*body, *params);
+        if (skipEntities && body->entity)
+            return nullptr;
+    }
+    if (const std::string reason = readCorners(*body, e); !reason.empty()) {
+        logLine("Refused body " + body->id + " of type " + body->type + ": " + reason);
+        return nullptr;
+    }
+    if (body->normalisedTexCoords)
+        normaliseTexCoords(body->texCoords);
+    readAttributes(*body, e);
+    body->setPosition(body->centroid());
+    body->placed = true;
+    body->makeLocalVertices();
+    if (body->usesDefaultShape) {
+        body->clearGeometry();
+        body->makeDefaultShape();
+    }
+    body->updateGeometry();
+    body->computeBounds();
+    return body;
+}
+
+TiXmlElement* writeBody(const Body& body, TiXmlElement& parent) {
+    TiXmlElement* p = appendChild(parent, "P");
+    xml::writeString(*p, "idname", body.id);
+    xml::writeString(*p, "type", body.type);
+
+    TiXmlElement& params = *appendChild(*p, "params");
+    xml::writeString(params, "targets", body.targets);
+    xml::writeBool(params, "solid", body.solid);
+    xml::writeBool(params, "entity", body.entity);
+    xml::writeBool(params, "outlined", body.outlined);
+    xml::writeValue(params, "outlinecolour", body.outlinecolour);
+    xml::writeInt(params, "outlinewidth", body.outlinewidth);
+    xml::writeFloat(params, "texhscale", body.texhscale);
+    xml::writeFloat(params, "texhshift", body.texhshift);
+    xml::writeFloat(params, "texvscale", body.texvscale);
+    xml::writeFloat(params, "texvshift", body.texvshift);
+    xml::writeFloat(params, "texrotate", body.texrotate);
+    xml::writeBool(params, "textured", body.textured);
+    xml::writeString(params, "texture", body.texture);
+    xml::writeBool(params, "visible", body.visible);
+    xml::writeFloat(params, "z-shift", body.zShift);
+    xml::writeFloat(params, "mass", body.mass);
+
+    TiXmlElement& verts = *appendChild(*p, "verts");
+    const std::vector<Vector>& corners = body.worldVertices();
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        TiXmlElement& v = *appendChild(verts, "v");
+        xml::writeValue(v, "origin", corners[i]);
+        if (i < body.colours.size())
+            xml::writeValue(v, "colour", body.colours[i]);
+        if (i < body.texCoords.size())
+            xml::writeValue(v, "texcoords", body.texCoords[i]);
+    }
+
+    TiXmlElement& attributes = *appendChild(*p, "attributes");
+    for (const auto& [name, value] : body.customAttributes) {
+        TiXmlElement& a = *appendChild(attributes, "a");
+        xml::writeString(a, "name", name);
+        xml::writeString(a, "value", value);
+    }
+    body.saveState(*appendChild(*p, "custom"));
+    return p;
+}
+
+}  // namespace bc::levelformat
