@@ -70,6 +70,8 @@ class IRenderer {
     virtual void setColour(int r, int g, int b) = 0;
     virtual void setColour(int r, int g, int b, int a) = 0;
     virtual void setColour(const RGBAColour& colour) = 0;
+    /// The colour of what has none of its own.
+    [[nodiscard]] virtual RGBAColour getColour() const { return {255, 255, 255, 255}; }
 
     // Shapes. x, y name the top-left corner and shapes extend right and down unless said otherwise.
     virtual void drawQuad(float x, float y, float z, float w, float h) = 0;
@@ -84,9 +86,11 @@ class IRenderer {
     virtual void drawSprite(const std::string& name, float x, float y, float z, float size) = 0;
     virtual void drawPolygon(const Vector* points, int count) = 0;
     virtual void drawPolygon(const Vector* points, const RGBAColour* colours, int count) = 0;
+    /// One chain of segments through the corners of each polygon, open at the end.
     virtual void drawLines(const std::vector<std::vector<Vertex>>& polygons) = 0;
     virtual void drawLine(float x1, float y1, float x2, float y2, int r, int g, int b, int a) = 0;
     virtual void drawLine(float x1, float y1, float x2, float y2, float width) = 0;
+    /// One chain of segments through all vertices.
     virtual void drawColouredLines(const std::vector<Vertex>& vertices) = 0;
     virtual void setScissorTest(bool on) = 0;
     virtual void setScissor(const ScissorRect& rect) = 0;
@@ -152,6 +156,10 @@ class IRenderer {
     /// The drawing operations from the next beginFrame to its endFrame are written to out, one a
     /// line; the stream is released afterwards.
     virtual void dumpNextFrame(std::unique_ptr<std::ostream> out) = 0;
+    /// True while a frame is being dumped.
+    [[nodiscard]] virtual bool isDumpingFrame() const { return false; }
+    /// A line of the dump from whoever turns one operation into many (texts).
+    virtual void noteInDump(std::string_view /*line*/) {}
 };
 
 }  // namespace bc
