@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+// The text forms of the value types, which every data file and save is made of.
+#include "core/Dimension.h"
+#include "core/RGBAColour.h"
+#include "core/TexCoord.h"
+#include "core/Vector.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace bc {
+namespace {
+
+struct Case {
+    const char* text;
+    const char* result;
+};
+
+template <class Value>
+void expectReads(const Value& before, std::initializer_list<Case> cases) {
+    for (const Case& c : cases) {
+        Value value = before;
+        value.fromString(c.text);
+        EXPECT_EQ(value.toString(), c.result) << "from \"" << c.text << '"';
+        Value again = before;
+        again.fromString(value.toString());
+        EXPECT_EQ(again.toString(), c.result) << "written and read back";
+    }
+}
+
+TEST(TextForms, VectorTakesTwoOrMoreNumbers) {
+    expectReads(Vector(9, 9, 5), {{"1,2", "1,2,5"},
+                                  {"7", "9,9,5"},
+                                  {"", "9,9,5"},
+                                  {",,3,,4,", "3,4,5"},
+                                  {"1,2,3,4,5", "1,2,3"},
+                                  {" 0.025, -500 ,x", "0.025,-500,0"}});
+    EXPECT_EQ(Vector("3,4").length(), 5);
+}
+
+TEST(TextForms, VectorTextLeavesW) {
+    Vector v(1, 2, 3);
+    v.w = 4;
+    v.fromString("5,6,7");
+    EXPECT_EQ(v.w, 4);
+    EXPECT_EQ(v.toString(), "5,6,7");
+}
+
+TEST(TextForms, ColourTakesExactlyFourNumbers) {
+    expectReads(RGBAColour(1, 2, 3, 4), {{"255,80,5,255", "255,80,5,255"},
+                                         {"255,80,5", "1,2,3,4"},
+                                         {"1,1,1,1,1", "1,2,3,4"},
+                                         {"", "1,2,3,4"},
+                                         {"0.5,,red,,300,-1", "0.5,0,300,-1"}});
+}
+
+TEST(TextForms, ColourChannelsAreClampedWhereDrawn) {
+    EXPECT_EQ(RGBAColour::toByte(-5), 0);
+    EXPECT_EQ(RGBAColour::toByte(254.9F), 254);
+    EXPECT_EQ(RGBAColour::toByte(1e9F), 255);
+    EXPECT_EQ(RGBAColour::toByte(std::numeric_limits<float>::quiet_NaN()), 0);
+}
+
+TEST(TextForms, DimensionTakesTwoOrThreeNumbers) {
+    expectReads(Dimension(1, 2, 3), {{"10,20", "10,20,3"},
+                                     {"10,20,30", "10,20,30"},
+                                     {"10,20,30,40", "10,20,30"},
+                                     {"10", "1,2,3"}});
+}
+
+TEST(TextForms, SizesAreSeparatedByAnX) {
+    for (const char* text : {"640x480", "640 x 480", "  640   x 480  ", "640 x 480 x 32"}) {
+        Dimension size(1, 2);
+        size.fromSizeString(text);
+        EXPECT_EQ(size, Dimension(640, 480)) << text;
+    }
+    Dimension unchanged(1, 2);
+    unchanged.fromSizeString("800 x");
+    EXPECT_EQ(unchanged.toSizeString(), "1 x 2");
+}
+
+TEST(TextForms, TexCoordTakesExactlyTwoNumbers) {
+    expectReads(TexCoord(3, 4), {{"0.25,1", "0.25,1"}, {"1", "3,4"}, {"1,2,3", "3,4"}});
+}
+
+}  // namespace
+}  // namespace bc

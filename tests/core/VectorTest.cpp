@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "core/Vector.h"
+
+#include <gtest/gtest.h>
+
+namespace bc {
+namespace {
+
+Vector withW(float x, float y, float z, float w) {
+    Vector v(x, y, z);
+    v.w = w;
+    return v;
+}
+
+TEST(Vector, ArithmeticCoversAllFourComponents) {
+    Vector v = withW(1, 2, 3, 4);
+    v += withW(10, 20, 30, 40);
+    EXPECT_TRUE(v.equals(withW(11, 22, 33, 44)));
+    EXPECT_TRUE((v - withW(1, 2, 3, 4)).equals(withW(10, 20, 30, 40)));
+    EXPECT_TRUE((v * 2).equals(withW(22, 44, 66, 88)));
+    EXPECT_FALSE(withW(0, 0, 0, 1).isZero());
+    EXPECT_FALSE(withW(1, 2, 3, 4).equals(withW(1, 2, 3, 5)));
+    EXPECT_EQ(withW(2, 4, 5, 2).length(), 7);
+}
+
+TEST(Vector, NormalisingZeroLeavesZero) {
+    EXPECT_TRUE(normalised(Vector()).isZero());
+    EXPECT_TRUE(normalised(withW(0, 3, 0, 4)).equals(withW(0, 0.6F, 0, 0.8F)));
+}
+
+TEST(Vector, SettingTwoComponentsClearsDepth) {
+    Vector v = withW(1, 2, 3, 4);
+    v.set(5, 6);
+    EXPECT_TRUE(v.equals(withW(5, 6, 0, 4)));
+    v.set(withW(7, 8, 9, 10));
+    EXPECT_TRUE(v.equals(withW(7, 8, 9, 4))) << "w is not copied";
+}
+
+TEST(Vector, PlanarDistanceIgnoresDepth) {
+    EXPECT_EQ(planarDistance({0, 0, 7}, {3, 4, -7}), 5);
+    EXPECT_EQ(planarDistanceSquared({1, 1}, {4, 5}), 25);
+    EXPECT_EQ(distance({0, 0, 0}, {2, 3, 6}), 7);
+}
+
+TEST(Vector, PointAlongSegmentKeepsToItsEnds) {
+    const Vector a(10, 20);
+    const Vector b(30, 60);
+    struct Case {
+        float t;
+        bool inside;
+        Vector point;
+    };
+    for (const Case& c : {Case{0, true, a}, Case{1, true, b}, Case{0.25F, true, {15, 30}},
+                          Case{-0.01F, false, a}, Case{1.01F, false, b}}) {
+        Vector out;
+        EXPECT_EQ(pointAlongSegment(a, b, c.t, out), c.inside) << c.t;
+        EXPECT_TRUE(out.equals(c.point)) << c.t;
+    }
+}
+
+}  // namespace
+}  // namespace bc

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "resources/FileSystem.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <unistd.h>
+
+namespace bc {
+
+/// A user folder and a data folder of the test's own, empty at its start.
+class TestFolders : public testing::Test {
+  protected:
+    TestFolders() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "bcXXXXXX").string();
+        root_ = mkdtemp(pattern.data());
+        std::filesystem::create_directories(user());
+        std::filesystem::create_directories(data());
+        files::setFolders(user(), data());
+    }
+    ~TestFolders() override {
+        files::setFolders("", "");
+        std::error_code ignored;
+        std::filesystem::remove_all(root_, ignored);
+    }
+
+    [[nodiscard]] std::string user() const { return root_ + "/user"; }
+    [[nodiscard]] std::string data() const { return root_ + "/data"; }
+
+    /// Bypasses what is tested.
+    static void put(const std::string& path, std::string_view contents) {
+        std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+        std::ofstream(path, std::ios::binary) << contents;
+    }
+    static std::string get(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+    /// What action writes to the log.
+    template <class Action>
+    static std::string logOf(Action action) {
+        testing::internal::CaptureStdout();
+        action();
+        return testing::internal::GetCapturedStdout();
+    }
+
+  private:
+    std::string root_;
+};
+
+}  // namespace bc
