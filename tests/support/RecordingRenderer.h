@@ -216,7 +216,7 @@ class RecordingRenderer final : public IRenderer {
     bool movieFrameDue(float) override { return false; }
     bool isCapturingBloom() const override { return false; }
     void takeScreenshot() override {}
-    void grabThumbnail() override {}
+    void grabThumbnail() override { record("grabThumbnail", {}, {}); }
     bool saveThumbnail(const std::string&, int, int) override { return false; }
     void dumpTextures(std::ostream&) override {}
     const std::vector<Dimension>& getVideoModes() const override { return modes_; }
