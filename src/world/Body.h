@@ -128,6 +128,9 @@ class alignas(64) Body : public Drawable {
     /// Another body leaves the world for good: called on every body that stays. Overrides drop
     /// every pointer to it that they keep, and call this one, which drops it from targetBodies.
     virtual void onBodyRemoved(const Body& gone);
+    /// The world has let go of the body and would delete it now; self is it. Classes whose bodies
+    /// come and go all the time keep it to use it again (the default deletes it).
+    virtual void retire(std::unique_ptr<Body> /*self*/) {}
     /// It has left the world and is deleted when the pass that runs has ended.
     [[nodiscard]] bool isGone() const { return gone_; }
 

@@ -34,11 +34,15 @@ bool isOn(const char* variable) {
 World::DeferredDeletion::~DeferredDeletion() {
     if (--world_.deferrals_ > 0)
         return;
-    // A body's destructor may destroy others.
-    while (!world_.gone_.empty()) {
-        const auto gone = std::move(world_.gone_);
-        world_.gone_.clear();
-    }
+    // By index: a body that goes may destroy others.
+    for (std::size_t i = 0; i < world_.gone_.size(); ++i)
+        dispose(std::move(world_.gone_[i]));
+    world_.gone_.clear();
+}
+
+void World::dispose(std::unique_ptr<Body> body) {
+    Body& going = *body;
+    going.retire(std::move(body));
 }
 
 World::World() = default;
@@ -62,6 +66,7 @@ int World::addBody(Body* body, bool assignId) {
 
 int World::addBody(std::unique_ptr<Body> body, bool assignId) {
     Body* added = body.get();
+    added->gone_ = false;
     added->ownedAt_ = static_cast<std::uint32_t>(owned_.size());
     owned_.push_back(std::move(body));
     return addBody(added, assignId);
@@ -123,6 +128,8 @@ void World::destroyBody(Body* body) {
     body->gone_ = true;
     if (deferrals_ > 0)
         gone_.push_back(std::move(owned));
+    else
+        dispose(std::move(owned));
 }
 
 void World::deleteBodies() {

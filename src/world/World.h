@@ -105,6 +105,7 @@ class World {
     [[nodiscard]] bool isNearPlayer(const Body& body) const;
     void interactAll(float step);
     std::unique_ptr<Body> releaseOwned(Body* body);
+    static void dispose(std::unique_ptr<Body> body);
 
     std::vector<Body*> allBodies_;
     std::vector<Body*> activeBodies_;
