@@ -43,6 +43,13 @@ inline void moveLanes(Block& p, float dt, int count) {
         p.age[i] += dt;
 }
 
+bool anyDead(const Block& p) {
+    int dead = 0;
+    for (int i = 0; i < lanes; ++i)
+        dead |= p.age[i] > p.life[i] ? 1 : 0;
+    return dead != 0;
+}
+
 }  // namespace
 
 void ParticlePool::reset(int limit) {
@@ -130,6 +137,11 @@ void ParticlePool::move(float dt) {
 void ParticlePool::removeDead() {
     int i = 0;
     while (i < size_) {
+        // Most blocks are all alive; lanes behind the last particle at worst cost a closer look.
+        if (i % lanes == 0 && !anyDead(blocks_[static_cast<std::size_t>(i / lanes)])) {
+            i += lanes;
+            continue;
+        }
         const Block& p = blocks_[static_cast<std::size_t>(i / lanes)];
         if (p.age[i % lanes] > p.life[i % lanes])
             remove(i);

@@ -213,14 +213,13 @@ void ParticleSystem::moveParticles(float dt) {
 void ParticleSystem::updateParticle(float, Particle&) {}
 
 bool ParticleSystem::isOutside(const Frustum& view) const {
-    ParticlePool::Extent e{position_.x, position_.y, position_.x, position_.y};
-    if (pool_.extent(drawsBeams(), e)) {
-        e.minX = std::min(e.minX, position_.x);
-        e.minY = std::min(e.minY, position_.y);
-        e.maxX = std::max(e.maxX, position_.x);
-        e.maxY = std::max(e.maxY, position_.y);
-    }
-    return view.isRectOutside(e.minX, e.minY, e.maxX, e.maxY);
+    if (!view.isRectOutside(position_.x, position_.y, position_.x, position_.y))
+        return false;
+    ParticlePool::Extent e{};
+    if (!pool_.extent(drawsBeams(), e))
+        return true;
+    return view.isRectOutside(std::min(e.minX, position_.x), std::min(e.minY, position_.y),
+                              std::max(e.maxX, position_.x), std::max(e.maxY, position_.y));
 }
 
 void ParticleSystem::setBlendMode(IRenderer& renderer) const {

@@ -5,9 +5,10 @@
 #include "core/FontRenderer.h"
 #include "core/IRenderer.h"
 #include "core/Quad.h"
+#include "render/Frustum.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,6 +47,8 @@ class RecordingRenderer final : public IRenderer {
     std::vector<DrawCall> calls;
     /// Deepest nesting of pushMatrix still open; 0 between frames of balanced code.
     int matrixDepth() const { return static_cast<int>(offsets_.size()) - 1; }
+    /// The view that code under test sees; without one set in it everything is inside.
+    Frustum frustum;
     /// The state right now, as the next call would be drawn in it.
     DrawCall state;
 
@@ -97,13 +100,19 @@ class RecordingRenderer final : public IRenderer {
         state.texturing = true;
         state.text = name;
         state.clamp = clamp;
+        if (getTextureId(name) < 0)
+            textures_.push_back(name);
     }
     void bindTexture(const std::string& name) override { bindTexture(name, false); }
-    void bindTextureId(int id) override { state.text = "#" + std::to_string(id); }
+    void bindTextureId(int id) override { state.text = textures_.at(static_cast<std::size_t>(id)); }
     void bindTextureNoEnable(const std::string& name) override { state.text = name; }
-    int getTextureId(const std::string&) override { return -1; }
+    /// Every texture ever bound is cached.
+    int getTextureId(const std::string& name) override {
+        const auto at = std::find(textures_.begin(), textures_.end(), name);
+        return at == textures_.end() ? -1 : static_cast<int>(at - textures_.begin());
+    }
     void unloadTexture(const std::string&) override {}
-    void reloadTextures() override {}
+    void reloadTextures() override { textures_.clear(); }
     void setColour(int r, int g, int b) override { setColour(r, g, b, 255); }
     void setColour(int r, int g, int b, int a) override {
         state.colour.set(static_cast<float>(r), static_cast<float>(g), static_cast<float>(b),
@@ -206,8 +215,7 @@ class RecordingRenderer final : public IRenderer {
         offsets_.pop_back();
         state.offset = offsets_.back();
     }
-    /// There is none; only code under test that never asks for it may use this renderer.
-    const Frustum& getFrustum() const override { std::abort(); }
+    const Frustum& getFrustum() const override { return frustum; }
 
     void setBloomDirection(const Vector&) override {}
     void beginBloomCapture() override {}
@@ -236,6 +244,7 @@ class RecordingRenderer final : public IRenderer {
     std::vector<Vector> offsets_{Vector()};
     std::unique_ptr<FontRenderer> fonts_;
     std::vector<Dimension> modes_;
+    std::vector<std::string> textures_;
 };
 
 /// Letters of every font are half as wide as the font is high. Texts are recorded as calls of the
