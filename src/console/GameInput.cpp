@@ -126,7 +126,7 @@ void GameInput::listBindsCommand() {
     consolePrintColoured("    Key Bindings", colours::gold);
     for (const auto& [key, command] : bindings_) {
         if (!command.empty())
-            consolePrint("    " + key + " is " + command);
+            consolePrint(std::string("    ").append(key).append(" is ").append(command));
     }
 }
 

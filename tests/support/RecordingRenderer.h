@@ -5,7 +5,14 @@
 #include "core/FontRenderer.h"
 #include "core/IRenderer.h"
 #include "core/Quad.h"
+// Tests of the floors below the renderer's have no frustum and never ask for one.
+#if __has_include("render/Frustum.h")
 #include "render/Frustum.h"
+#else
+namespace bc {
+class Frustum {};
+}  // namespace bc
+#endif
 
 #include <algorithm>
 #include <iterator>
