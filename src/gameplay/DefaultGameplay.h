@@ -55,6 +55,8 @@ class DefaultGameplay final : public IGameplay {
     void returnGib();
     [[nodiscard]] int gibCount() const { return gibCount_; }
     [[nodiscard]] Player* player() const { return player_; }
+    /// The player's body goes: called by itself.
+    void forgetPlayer();
 
     // The running race. The bodies of the course drive it; the clock stands still, at the last
     // race's time, while none runs.
@@ -65,7 +67,6 @@ class DefaultGameplay final : public IGameplay {
   private:
     void carryPlayerOver();
     void placePlayer(const std::string& spawnName);
-    void registerCommands();
 
     std::span<const GameBodyType> enemyTypes_;
     std::unique_ptr<GameBodyFactory> factory_;

@@ -30,8 +30,7 @@ class FireableWeapon {
     [[nodiscard]] virtual int ammoAfterShot(int count) const { return count - 1; }
     /// A body leaves the world: drop every pointer to it.
     virtual void onBodyRemoved(const Body& /*gone*/) {}
-    /// What is saved of a weapon whose holder saves it (its next fire time), and dumped.
-    void dumpState(TiXmlElement& e) const;
+    virtual void dumpState(TiXmlElement& e) const;
 
     // Level times and durations in milliseconds.
     float nextFireTime = 0;
@@ -52,6 +51,8 @@ class FireableWeapon {
     FireableWeapon(float delayMs, float kick, int points)
         : delay(delayMs), knockback(kick), damage(points) {}
 
+    /// Every shot begins with it: false when it is not time yet, else the next shot's time is set.
+    [[nodiscard]] bool beginShot(float time);
     /// The weapon's damage by this shooter's hand.
     [[nodiscard]] int damageBy(const GameBody* shooter) const;
     /// A firing sound: on the sample's own channel for the player, on enemyChannel for enemies.

@@ -11,10 +11,58 @@
 
 namespace bc {
 
+class GameBody;
+
+/// What a GameBody keeps of play. Times are level times in milliseconds.
+struct GameBodyState {
+    int health = 100;
+    int maxHealth = 200;
+    int armour = 0;
+    int maxArmour = 200;
+    /// Can be hurt at all.
+    bool takesDamage = false;
+    bool dying = false;
+    /// Bleeds when hurt and when killed.
+    bool showDamage = true;
+    float deathTime = 0;
+    float deathDelay = 5000;
+    /// Contact damage hurts it again from this time on; kept by what deals it.
+    float nextPainTime = 0;
+    /// Enemies ignore it.
+    bool noTarget = false;
+    /// See namespace bodyflag.
+    BitFlags flags;
+    /// See namespace team.
+    BitFlags team;
+    bool hasQuad = false;
+    /// Factor of the damage it deals.
+    float damageFactor = 1;
+    float quadTime = 0;
+    int numAlive = 0;
+    int maxAlive = 0;
+    // Neither is owned. An owner has its children's links removed when it dies, a child its own.
+    std::vector<GameBody*> children;
+    GameBody* owner = nullptr;
+    /// As a save named it; the owner's current id is what is written.
+    int ownerId = 0;
+    /// No damage at all; not saved.
+    bool godMode = false;
+    bool hasInvinc = false;
+    /// Factor of the damage it takes while hasInvinc.
+    float damageTakenFactor = 1;
+    float invincTime = 0;
+    int numLives = 1;
+    /// Dead, waiting to come back.
+    bool inLimbo = false;
+    float reviveTime = 0;
+    /// Health it comes back with.
+    int initialHealth = 100;
+    bool canGib = true;
+};
+
 /// A body that takes part in play: it has health and armour, can be hurt and die (for good, or to
 /// come back while it has lives left), may belong to an owner, and sets off its targets.
-/// Times are level times in milliseconds.
-class GameBody : public Body {
+class GameBody : public Body, public GameBodyState {
   public:
     /// How long a body with lives left stays away.
     static constexpr float limboTime = 3000;
@@ -80,50 +128,6 @@ class GameBody : public Body {
     [[nodiscard]] bool isUntouchable() const;
     /// Both on the player's side.
     [[nodiscard]] bool isAllyOf(const GameBody& other) const;
-
-    int health = 100;
-    int maxHealth = 200;
-    int armour = 0;
-    int maxArmour = 200;
-    /// Can be hurt at all.
-    bool takesDamage = false;
-    bool dying = false;
-    /// Bleeds when hurt and when killed.
-    bool showDamage = true;
-    float deathTime = 0;
-    float deathDelay = 5000;
-    /// Contact damage hurts it again from this time on; kept by what deals it.
-    float nextPainTime = 0;
-    /// Enemies ignore it.
-    bool noTarget = false;
-    /// See namespace bodyflag.
-    BitFlags flags;
-    /// See namespace team.
-    BitFlags team;
-    bool hasQuad = false;
-    /// Factor of the damage it deals.
-    float damageFactor = 1;
-    float quadTime = 0;
-    int numAlive = 0;
-    int maxAlive = 0;
-    // Neither is owned. An owner has its children's links removed when it dies, a child its own.
-    std::vector<GameBody*> children;
-    GameBody* owner = nullptr;
-    /// As a save named it; the owner's current id is what is written.
-    int ownerId = 0;
-    /// No damage at all; not saved.
-    bool godMode = false;
-    bool hasInvinc = false;
-    /// Factor of the damage it takes while hasInvinc.
-    float damageTakenFactor = 1;
-    float invincTime = 0;
-    int numLives = 1;
-    /// Dead, waiting to come back.
-    bool inLimbo = false;
-    float reviveTime = 0;
-    /// Health it comes back with.
-    int initialHealth = 100;
-    bool canGib = true;
 
   protected:
     void enterLimbo();

@@ -10,12 +10,11 @@
 
 namespace bc {
 
-/// A row of the table of body types: how level files and spawners name it, its class, what it is,
-/// and how an object of it is made.
+/// A row of the table of body types: how level files and spawners name it, its class, and how an
+/// object of it is made.
 struct GameBodyType {
     std::string_view name;
     std::string_view className;
-    std::string_view description;
     std::unique_ptr<Body> (*make)();
 };
 

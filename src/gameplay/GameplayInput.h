@@ -39,7 +39,6 @@ class GameplayInput final : public GameInput {
     void clearActions() override;
 
   private:
-    [[nodiscard]] Vector thrust(Player& player, float step) const;
     void fireWeapons(Player& player);
     void fireGrapple(Player& player);
 

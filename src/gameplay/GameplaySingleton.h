@@ -4,6 +4,7 @@
 
 #include "core/BasicTimer.h"
 #include "core/GameResourceBundle.h"
+#include "gameplay/BodyPool.h"
 #include "gameplay/WeaponDefinitions.h"
 
 #include <memory>
@@ -20,6 +21,7 @@ class World;
 class GameplaySingleton {
   public:
     static GameplaySingleton& instance();
+    [[nodiscard]] static bool exists();
     static void clear();
 
     /// Milliseconds since the level began, pauses not counted. All timed rules of play store
@@ -40,6 +42,8 @@ class GameplaySingleton {
     BasicTimer levelClock;
     /// The tuning numbers of the weapons in force.
     WeaponDefinitions weaponDefinitions;
+    /// Projectiles and gibs that have left the world and wait to be used again.
+    BodyPool bodyPool;
     // Neither is owned; both belong to the application's controller.
     GameHUD* hud = nullptr;
     DefaultGameplay* gameplay = nullptr;

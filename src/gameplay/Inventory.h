@@ -44,6 +44,7 @@ class Inventory {
               int weaponId);
     /// Lets go of the trigger; ids without a weapon are ignored.
     void unfire(int weaponId, float time);
+    void unfireAll(float time);
     void selectNext();
     void selectPrevious();
     /// Takes the weapon in hand, owned or not.
@@ -80,8 +81,10 @@ class Inventory {
 
   private:
     void createWeapons();
+    void resetWeapons();
     void ownStandardWeapons();
-    void select(int weaponId);
+    /// To the next owned weapon up or down, round and round.
+    void step(int direction);
     void runEmpty(float time);
     [[nodiscard]] int bestLoadedWeapon() const;
     void playAtOwner(int soundId) const;

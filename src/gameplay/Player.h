@@ -46,6 +46,9 @@ class Player final : public GameBody, public HudPlayer {
     void addCash(int n);
     /// Brings the player back if it died; called when a level starts.
     void revive();
+    /// The flame of the boosters, while a burst lasts.
+    void startExhaust();
+    void stopExhaust();
     /// Lets go of the grappling hook, if one is out.
     void releaseGrapple();
 
@@ -101,10 +104,12 @@ class Player final : public GameBody, public HudPlayer {
     bool atChasePoint = false;
 
   private:
-    void fadeEffect(std::string_view name);
+    void attachEffect(std::string_view name);
+    void fadeEffect(std::string_view name, float seconds);
     [[nodiscard]] bool hasEffect(std::string_view name) const;
-    void requestRespawn(float time);
-    void endPowerUps(float time);
+    void requestRespawn(float now);
+    void drawRope(IRenderer& renderer);
+    void endPowerUps(float now);
 };
 
 }  // namespace bc

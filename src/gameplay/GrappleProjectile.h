@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "gameplay/Projectile.h"
+
+namespace bc {
+
+/// The hook of the grapple (type "grappleprojectile"): flies until it touches something solid, then
+/// holds there and pulls the player towards it. Saves leave it out.
+class GrappleProjectile final : public Projectile {
+  public:
+    GrappleProjectile();
+
+    [[nodiscard]] std::unique_ptr<Body> create() const override;
+    void renew() override;
+    void think(float dt) override;
+    void onTouch(const TouchInfo& touch) override;
+    [[nodiscard]] bool acceptsCollision(const Body& other) const override;
+    void dumpState(TiXmlElement& debug) const override;
+
+    /// Units a second.
+    float pullSpeed = 600;
+    bool holding = false;
+};
+
+}  // namespace bc
