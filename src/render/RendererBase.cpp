@@ -454,13 +454,16 @@ bool RendererBase::movieFrameDue(float timeMs) {
     return true;
 }
 
+std::optional<Image> RendererBase::readFrame() {
+    return device_.readFrame(width_, height_);
+}
+
 void RendererBase::takeScreenshot() {
-    pictures_.writeScreenshot(device_.readFrame(width_, height_),
-                              settingOf(settings_.movierecord) > 0);
+    pictures_.writeScreenshot(readFrame(), settingOf(settings_.movierecord) > 0);
 }
 
 void RendererBase::grabThumbnail() {
-    pictures_.grabThumbnail(device_.readFrame(width_, height_));
+    pictures_.grabThumbnail(readFrame());
 }
 
 bool RendererBase::saveThumbnail(const std::string& path, int width, int height) {

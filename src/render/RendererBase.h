@@ -12,6 +12,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -115,6 +116,8 @@ class RendererBase : public IRenderer {
     [[nodiscard]] bool isDumpingFrame() const override { return recorder_.isActive(); }
     void noteInDump(std::string_view line) override;
 
+    /// The window as drawn so far in this frame; nothing when it cannot be read.
+    [[nodiscard]] std::optional<Image> readFrame();
     /// Takes the view's planes from the matrices in force instead of from the camera.
     void updateFrustumPlanes();
     /// A new black texture; its id comes back in id.

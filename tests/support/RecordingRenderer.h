@@ -126,6 +126,7 @@ class RecordingRenderer final : public IRenderer {
                          static_cast<float>(a));
     }
     void setColour(const RGBAColour& colour) override { state.colour = colour; }
+    RGBAColour getColour() const override { return state.colour; }
 
     void drawQuad(float x, float y, float z, float w, float h) override {
         record("drawQuad", state.text, {x, y, z, w, h});

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+// Replaces the allocation functions of the program: include it in one source of a test program.
+#pragma once
+
+#include <cstdlib>
+#include <new>
+
+namespace bc::test {
+
+inline thread_local long allocations = 0;
+
+/// How often this thread has asked for memory since the counter was made.
+class AllocationCounter {
+  public:
+    [[nodiscard]] long count() const { return allocations - start_; }
+
+  private:
+    long start_ = allocations;
+};
+
+}  // namespace bc::test
+
+void* operator new(std::size_t size) {
+    ++bc::test::allocations;
+    if (void* memory = std::malloc(size > 0 ? size : 1))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
