@@ -52,7 +52,7 @@ std::string AssetIndex::checkFile(ParamType type, const std::string& name) const
             std::vector<std::string> skies;
             tokenise(",", name, skies);
             for (const std::string& sky : skies) {
-                const std::string error = checkFile(ParamType::Sky, sky);
+                std::string error = checkFile(ParamType::Sky, sky);
                 if (!error.empty())
                     return error;
             }

@@ -69,7 +69,7 @@ std::string BodyTypesReader::read(std::string_view xml) {
         else
             error = "unknown element";
         if (!error.empty())
-            error = kind + " \"" + xml::readString(*e, "name") + "\": " + error;
+            error.insert(0, kind + " \"" + xml::readString(*e, "name") + "\": ");
     }
     types_.common_ = groups_["base"];
     return error;
@@ -103,7 +103,7 @@ std::string BodyTypesReader::readGroup(const TiXmlElement& e) {
             return "builds on an unknown group, " + group;
         params.insert(params.end(), groups_[group].begin(), groups_[group].end());
     }
-    const std::string error = readParams(e, placeOfGroup(name), params);
+    std::string error = readParams(e, placeOfGroup(name), params);
     groups_[name] = std::move(params);
     return error;
 }
@@ -192,9 +192,9 @@ std::string BodyTypesReader::replaceDefaults(const TiXmlElement& e, BodyType& ty
         if (param == type.params.end())
             return "unknown attribute, " + name;
         param->defaultText = a->Value();
-        const std::string error = types_.checkText(*param, *param->defaultText);
+        std::string error = types_.checkText(*param, *param->defaultText);
         if (!error.empty())
-            return name + " " + error;
+            return error.insert(0, name + " ");
     }
     return {};
 }

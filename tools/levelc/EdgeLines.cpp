@@ -102,10 +102,13 @@ std::vector<EdgeBand> edgeBands(const std::vector<EdgedPolygon>& polygons, std::
         for (const Interval& part : visible[i]) {
             const bool mitreStart = part.from == 0 && fromCorner;
             const bool mitreEnd = part.to == size && roundCorner;
-            const Point atStart = (mitreStart ? mitre(before, a, b, normal) : normal) * half;
-            const Point atEnd = (mitreEnd ? mitre(a, b, after, normal) : normal) * half;
+            Point atStart = (mitreStart ? mitre(before, a, b, normal) : normal) * half;
+            Point atEnd = (mitreEnd ? mitre(a, b, after, normal) : normal) * half;
             const Point start = a + along * part.from;
             const Point end = a + along * part.to;
+            // On an edge shorter than the line is wide the mitres of both ends would cross.
+            if (std::abs(dot(atEnd - atStart, along)) > part.to - part.from - cornerTolerance)
+                atStart = atEnd = normal * half;
             bands.push_back({start - atStart, start + atStart, end + atEnd, end - atEnd});
         }
     }

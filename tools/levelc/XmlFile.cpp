@@ -6,24 +6,20 @@
 
 #include <tinyxml.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 namespace bc::levelc {
 
 std::string readFile(const std::string& path, std::string& text) {
     std::ifstream in(path, std::ios::binary);
-    std::ostringstream contents;
-    if (!in || !(contents << in.rdbuf()))
-        return "cannot be read";
-    text = contents.str();
-    return {};
+    text.assign(std::istreambuf_iterator<char>(in), {});
+    return in.is_open() && !in.bad() ? "" : "cannot be read";
 }
 
 std::string parseXml(std::string_view text, TiXmlDocument& document) {
-    const std::string refusal = xmlRefusal(text);
+    std::string refusal = xmlRefusal(text);
     if (!refusal.empty())
         return refusal;
     const std::string copy(text);

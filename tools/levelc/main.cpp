@@ -66,9 +66,9 @@ int writeEditorTypes(const std::string& assets) {
         {assets + "/maps/objecttypes.xml", objectTypes(types)},
         {assets + "/../docs/bodytypes.md", levelReference(types)}};
     for (const auto& [path, text] : files) {
-        const std::string error = replaceFile(path, text);
+        std::string error = replaceFile(path, text);
         if (!error.empty())
-            return fail(path + ": " + error);
+            return fail(error.insert(0, path + ": "));
     }
     return 0;
 }
