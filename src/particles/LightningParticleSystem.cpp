@@ -20,6 +20,10 @@ float jitter() {
 
 }  // namespace
 
+std::span<const std::string> LightningParticleSystem::extraImages() {
+    return images;
+}
+
 LightningParticleSystem::LightningParticleSystem()
     : VariantParticleSystem(ParticleKind::lightning, images) {}
 

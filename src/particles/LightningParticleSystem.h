@@ -17,6 +17,8 @@ class LightningParticleSystem final : public VariantParticleSystem {
     static constexpr float raise = 0.2F;
 
     LightningParticleSystem();
+    /// The images besides the definition's.
+    [[nodiscard]] static std::span<const std::string> extraImages();
 
     /// The bolt: joints that wander off the straight line as they go, the last one at the end. As
     /// long as the pool allows.

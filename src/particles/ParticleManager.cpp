@@ -242,6 +242,11 @@ void ParticleManager::drawSystem(IRenderer& renderer, ParticleSystem& system) {
 }
 
 void ParticleManager::reloadTextures(IRenderer& renderer) {
+    for (const auto& images :
+         {LightningParticleSystem::extraImages(), PlasmaParticleSystem::extraImages()}) {
+        for (const std::string& image : images)
+            renderer.bindTexture(image, true);
+    }
     for (const auto& [id, definition] : definitions_) {
         if (!definition->texturePath().empty())
             renderer.bindTexture(definition->texturePath(), true);

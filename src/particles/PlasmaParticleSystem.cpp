@@ -13,6 +13,10 @@ const std::array<std::string, 3> images = {
 
 }  // namespace
 
+std::span<const std::string> PlasmaParticleSystem::extraImages() {
+    return images;
+}
+
 PlasmaParticleSystem::PlasmaParticleSystem()
     : VariantParticleSystem(ParticleKind::plasma, images) {}
 

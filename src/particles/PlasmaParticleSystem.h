@@ -17,6 +17,8 @@ class PlasmaParticleSystem final : public VariantParticleSystem {
     static constexpr float curl = 9;
 
     PlasmaParticleSystem();
+    /// The images besides the definition's.
+    [[nodiscard]] static std::span<const std::string> extraImages();
 
     /// The definition's initial particles at the second place, and the stream from the first place
     /// on as far as the rest of the pool reaches.

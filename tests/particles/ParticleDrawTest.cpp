@@ -60,16 +60,15 @@ TEST_F(ParticleDrawTest, OneCallASystemWhateverItHolds) {
     started(d);
     ASSERT_EQ(drawn().size(), 22U);
     for (std::size_t i = 0; i < 20; ++i) {
-        EXPECT_EQ(renderer.calls[i].name, "drawQuads");
-        EXPECT_EQ(renderer.calls[i].corners.size(), 300U * 3 * 4);
-        EXPECT_EQ(renderer.calls[i].text, "data/particles/many.png");
-        EXPECT_TRUE(renderer.calls[i].additive && renderer.calls[i].blending);
-        EXPECT_FALSE(renderer.calls[i].depthWrite);
+        const test::DrawCall& call = renderer.calls[i];
+        EXPECT_EQ(call.name, "drawQuads");
+        EXPECT_EQ(call.corners.size(), 300U * 3 * 4);
+        EXPECT_EQ(call.text, "data/particles/many.png");
+        EXPECT_TRUE(call.additive && call.blending && !call.depthWrite);
     }
     EXPECT_FALSE(renderer.calls[20].additive);
     EXPECT_FALSE(renderer.calls[21].texturing);
-    EXPECT_TRUE(renderer.state.depthWrite);
-    EXPECT_FALSE(renderer.state.additive);
+    EXPECT_TRUE(renderer.state.depthWrite && !renderer.state.additive);
     // After the cache was emptied the ids are fetched again.
     renderer.reloadTextures();
     manager.reloadTextures(renderer);
@@ -117,19 +116,14 @@ TEST_F(ParticleDrawTest, BeamsRunFromTheirFirstPlaceToTheSecond) {
     started(base("rail"), {0, 10, 1}, {150, 10, 1});
     const auto rail = drawn().at(0).corners;
     ASSERT_EQ(rail.size(), 12U);
-    const float ends[3][2] = {{0, 64}, {64, 128}, {128, 150}};
-    for (std::size_t piece = 0; piece < 3; ++piece) {
-        const QuadVertex* v = &rail[piece * 4];
-        const float x[4] = {ends[piece][0], ends[piece][0], ends[piece][1], ends[piece][1]};
-        const float y[4] = {2, 18, 18, 2};
-        const float uv[4][2] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
-        for (int i = 0; i < 4; ++i) {
-            EXPECT_NEAR(v[i].x, x[i], 1e-3);
-            EXPECT_NEAR(v[i].y, y[i], 1e-3);
-            EXPECT_FLOAT_EQ(v[i].z, 1.2F);
-            EXPECT_EQ(v[i].u, uv[i][0]);
-            EXPECT_EQ(v[i].v, uv[i][1]);
-        }
+    const float ends[] = {0, 64, 128, 150};
+    for (std::size_t i = 0; i < 12; ++i) {
+        const std::size_t corner = i % 4;
+        EXPECT_NEAR(rail[i].x, ends[i / 4 + (corner < 2 ? 0 : 1)], 1e-3);
+        EXPECT_NEAR(rail[i].y, corner == 0 || corner == 3 ? 2 : 18, 1e-3);
+        EXPECT_FLOAT_EQ(rail[i].z, 1.2F);
+        EXPECT_EQ(rail[i].u, corner == 0 || corner == 3 ? 0 : 1);
+        EXPECT_EQ(rail[i].v, corner < 2 ? 0 : 1);
     }
     manager.clearSystems();
     // A streak is as wide as its particle in all, and one piece whatever its length.

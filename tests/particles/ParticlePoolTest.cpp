@@ -78,23 +78,5 @@ TEST(ParticlePool, SizesGrowBySecondWhateverTheLife) {
     EXPECT_EQ(p.height, 24);
 }
 
-TEST(ParticlePool, HoldsItsLimitAndItsMemory) {
-    ParticlePool pool;
-    pool.reset(9);
-    for (int i = 0; i < 12; ++i)
-        pool.add({});
-    EXPECT_EQ(pool.size(), 9);
-    EXPECT_EQ(pool.capacity(), 16);
-    pool.remove(9);
-    pool.remove(-1);
-    EXPECT_EQ(pool.size(), 9);
-    pool.reset(3);
-    EXPECT_EQ(pool.size(), 0);
-    EXPECT_EQ(pool.capacity(), 16);
-    pool.reset(-4);
-    pool.add({});
-    EXPECT_EQ(pool.size(), 0);
-}
-
 }  // namespace
 }  // namespace bc

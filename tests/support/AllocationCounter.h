@@ -21,15 +21,28 @@ class AllocationCounter {
 
 }  // namespace bc::test
 
-void* operator new(std::size_t size) {
+[[gnu::noinline]] void* operator new(std::size_t size) {
     ++bc::test::allocations;
     if (void* memory = std::malloc(size > 0 ? size : 1))
         return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
-void operator delete(void* memory, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+[[gnu::noinline]] void* operator new(std::size_t size, std::align_val_t alignment) {
+    ++bc::test::allocations;
+    const auto unit = static_cast<std::size_t>(alignment);
+    if (void* memory = std::aligned_alloc(unit, (size + unit) / unit * unit))
+        return memory;
+    throw std::bad_alloc();
+}
+[[gnu::noinline]] void operator delete(void* memory, std::align_val_t) noexcept {
+    std::free(memory);
+}
+[[gnu::noinline]] void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
     std::free(memory);
 }

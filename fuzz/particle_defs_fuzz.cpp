@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+// Definition files of particle systems: whatever is read also runs for a while.
+#include "particles/ParticleManager.h"
+#include "render/Frustum.h"
+#include "resources/XmlGuard.h"
+
+#include <tinyxml.h>
+
+#include <cstdint>
+#include <string>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string text(data, data + size);
+    if (!bc::xmlRefusal(text).empty())
+        return 0;
+    TiXmlDocument document;
+    document.Parse(text.c_str(), nullptr,
+                   bc::isUtf8(text) ? TIXML_DEFAULT_ENCODING : TIXML_ENCODING_LEGACY);
+    const TiXmlElement* root = document.RootElement();
+    if (document.Error() || root == nullptr)
+        return 0;
+
+    static bc::ParticleManager manager;
+    manager.clear();
+    manager.readDefinitions(*root);
+    const bc::Frustum everything;
+    int started = 0;
+    for (const TiXmlElement* e = root->FirstChildElement(); e != nullptr && started < 8;
+         e = e->NextSiblingElement(), ++started) {
+        const char* id = e->Attribute("id");
+        bc::ParticleSystem* system = manager.createFromDefinition(id != nullptr ? id : "");
+        if (system == nullptr)
+            continue;
+        system->setPosition({0, 0, 0}, {500, 300, 0});
+        system->emitInitial();
+        system->emitAtSelf();
+    }
+    for (const float dt : {1 / 120.0F, 0.1F, 3.0F, 1e6F})
+        manager.update(dt, everything);
+    return 0;
+}
