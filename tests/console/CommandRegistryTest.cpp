@@ -11,7 +11,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using Lines = std::vector<std::string>;
 
 class CommandRegistryTest : public ConsoleFixture {

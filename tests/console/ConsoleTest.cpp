@@ -16,7 +16,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::MatchesRegex;
-using testing::StartsWith;
 
 class ConsoleTest : public ConsoleFixture {
   protected:

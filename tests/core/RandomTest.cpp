@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -11,9 +12,8 @@ namespace bc {
 namespace {
 
 std::vector<int> draw(int count) {
-    std::vector<int> out;
-    for (int i = 0; i < count; ++i)
-        out.push_back(randomInt());
+    std::vector<int> out(static_cast<std::size_t>(count));
+    std::generate(out.begin(), out.end(), randomInt);
     return out;
 }
 
@@ -69,7 +69,7 @@ TEST(Random, DirectionsAreUnitVectorsAllAround) {
         const Vector d = randomDirection();
         ASSERT_NEAR(d.length(), 1, 1e-5F);
         ASSERT_EQ(d.z, 0);
-        ++quadrants[static_cast<std::size_t>((d.x > 0 ? 1 : 0) + (d.y > 0 ? 2 : 0))];
+        ++quadrants[(d.x > 0 ? 1U : 0U) + (d.y > 0 ? 2U : 0U)];
     }
     for (const int count : quadrants)
         EXPECT_GT(count, 60);

@@ -19,6 +19,7 @@ class FileOpsTest : public TestFolders {
         nodes.push_back({false, "kept"});
         FileOps::getDirContents(pattern, folder, nodes);
         std::vector<std::string> names;
+        names.reserve(nodes.size());
         for (const FileOps::FileSystemNode& node : nodes)
             names.push_back(node.name);
         return names;

@@ -34,14 +34,17 @@ class ZipBuilder {
                 m.claimedSize >= 0 ? m.claimedSize : static_cast<std::int64_t>(m.contents.size()));
             const auto offset = static_cast<std::uint32_t>(
                 m.claimedOffset >= 0 ? m.claimedOffset : static_cast<std::int64_t>(out.size()));
-            const std::string common = u16(m.method) + u32(0) + u32(0) +
-                                       u32(static_cast<std::uint32_t>(packed.size())) + u32(size) +
-                                       u16(m.name.size());
-            out += "PK\3\4" + u16(20) + u16(0) + common + u16(m.localExtra.size()) + m.name +
-                   m.localExtra + packed;
-            directory += "PK\1\2" + u16(20) + u16(20) + u16(0) + common +
-                         u16(m.centralExtra.size()) + u16(0) + u16(0) + u16(0) + u32(0) +
-                         u32(offset) + m.name + m.centralExtra;
+            std::string common = u16(m.method);
+            common += u32(0) + u32(0) + u32(static_cast<std::uint32_t>(packed.size()));
+            common += u32(size) + u16(m.name.size());
+            out += "PK\3\4" + u16(20) + u16(0);
+            out += common + u16(m.localExtra.size());
+            out += m.name + m.localExtra;
+            out += packed;
+            directory += "PK\1\2" + u16(20) + u16(20) + u16(0);
+            directory += common + u16(m.centralExtra.size());
+            directory += u16(0) + u16(0) + u16(0) + u32(0) + u32(offset);
+            directory += m.name + m.centralExtra;
         }
         const auto start = static_cast<std::uint32_t>(out.size());
         return out + directory + "PK\5\6" + u32(0) + u16(members.size()) + u16(members.size()) +
