@@ -38,11 +38,16 @@ bool BaseSky::load(const std::string& path) {
         return false;
     }
     name_ = path;
-    hasLensFlare_ = xml::readBool(*root, "lensflare");
-    xml::readValue(*root, "lensflarepos", lensFlare_.position);
-    xml::readValue(*root, "lensflarecolour", lensFlare_.colour);
+    read(*root);
+    return true;
+}
+
+void BaseSky::read(const TiXmlElement& root) {
+    hasLensFlare_ = xml::readBool(root, "lensflare");
+    xml::readValue(root, "lensflarepos", lensFlare_.position);
+    xml::readValue(root, "lensflarecolour", lensFlare_.colour);
     bool cut = false;
-    for (const TiXmlElement* rect = root->FirstChildElement("rect"); rect;
+    for (const TiXmlElement* rect = root.FirstChildElement("rect"); rect;
          rect = rect->NextSiblingElement("rect")) {
         if (quads_.size() == maxQuads) {
             cut = true;
@@ -50,7 +55,7 @@ bool BaseSky::load(const std::string& path) {
         }
         quads_.emplace_back().read(*rect);
     }
-    for (const TiXmlElement* particle = root->FirstChildElement("particle"); particle;
+    for (const TiXmlElement* particle = root.FirstChildElement("particle"); particle;
          particle = particle->NextSiblingElement("particle")) {
         const std::string id = xml::readString(*particle, "id");
         if (placements_.size() == maxParticleSystems && !placements_.contains(id)) {
@@ -62,9 +67,8 @@ bool BaseSky::load(const std::string& path) {
         xml::readValue(*particle, "pos", position);
     }
     if (cut)
-        logLine("Sky file holds more than can be drawn, the rest is left out: " + path);
+        logLine("Sky file holds more than can be drawn, the rest is left out: " + name_);
     running_.reserve(placements_.size());
-    return true;
 }
 
 void BaseSky::draw(IRenderer& renderer, const Vector& camera, float dt, SkyParticles* particles,
@@ -72,12 +76,15 @@ void BaseSky::draw(IRenderer& renderer, const Vector& camera, float dt, SkyParti
     pushCamera(renderer, camera);
     renderer.setBlending(true);
     renderer.setAlphaBlend();
+    // Layers of one depth, and bodies however far behind, are ordered by their drawing alone.
+    renderer.setDepthWrite(false);
     for (SkyQuad& quad : quads_) {
         renderer.setTexturing(quad.textured);
         if (quad.blendStyle == SkyQuad::additiveStyle)
             renderer.setAdditiveBlend();
         quad.draw(renderer, dt);
     }
+    renderer.setDepthWrite(true);
     renderer.popMatrix();
 
     if (hasLensFlare_)

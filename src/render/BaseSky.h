@@ -28,6 +28,8 @@ class BaseSky {
 
     /// False, with a log line, when the file cannot be read.
     bool load(const std::string& path);
+    /// Adds what the root element of a sky file holds.
+    void read(const TiXmlElement& root);
     /// camera is the place the camera looks at, its z the negative distance of the eye.
     void draw(IRenderer& renderer, const Vector& camera, float dt, SkyParticles* particles,
               SightLine* sight);

@@ -6,6 +6,8 @@
 #include "core/IRenderer.h"
 #include "resources/XmlAttributes.h"
 
+#include <algorithm>
+
 namespace bc {
 
 void HudItem::setSize(int width, int height) {
@@ -50,8 +52,12 @@ void TextHudItem::draw(IRenderer& renderer, float) {
     renderer.setTexturing(true);
     renderer.setColour(colour());
     fonts->setFont(fontName_, fontSize_);
-    const auto x = static_cast<float>(pixels().x);
+    auto x = static_cast<float>(pixels().x);
     const auto y = static_cast<float>(pixels().y);
+    // Letters keep their size in small windows, where a long line would be cut off at the right.
+    const float beyond = x + fonts->textWidth(text_) - static_cast<float>(renderer.getWidth());
+    if (beyond > 0)
+        x = std::max(x - beyond, 0.0F);
     if (shadow)
         fonts->drawShadowText(x, y, text_);
     else

@@ -58,7 +58,8 @@ class HudItem {
     RGBAColour colour_;
 };
 
-/// A line of text. Its position is where the pen starts, on the line the letters stand on.
+/// A line of text. Its position is where the pen starts, on the line the letters stand on; one that
+/// would run out of the window on the right starts as much farther left, at the edge at most.
 class TextHudItem : public HudItem {
   public:
     using HudItem::HudItem;

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace bc {
 namespace {
 
@@ -82,6 +84,25 @@ TEST(Hud, DrawsVisibleItemsInTheirOrderInOverlayMode) {
     for (const test::DrawCall& call : renderer.calls)
         EXPECT_TRUE(call.overlay);
     EXPECT_FALSE(renderer.state.overlay);
+}
+
+TEST(TextHudItem, LongLinesMoveLeftToStayInTheWindow) {
+    test::RecordingRenderer renderer;
+    // Letters of a font of size 20 are ten pixels wide.
+    struct Case {
+        std::size_t letters;
+        int x;
+        float drawnAt;
+    };
+    for (const Case& c : {Case{10, 540, 540}, Case{11, 540, 530}, Case{64, 500, 0},
+                          Case{100, 300, 0}, Case{100, -180, 0}, Case{10, -5, -5}}) {
+        TextHudItem item("text");
+        item.setFont("vera", 20);
+        item.setText(std::string(c.letters, 'x'));
+        item.setPixelPosition(c.x, 100);
+        item.draw(renderer, 0);
+        EXPECT_EQ(renderer.calls.back().numbers[0], c.drawnAt) << c.letters << " from " << c.x;
+    }
 }
 
 TEST(ImageHudItem, GlowLaysFainterAdditiveCopiesOverThePicture) {

@@ -176,15 +176,14 @@ TEST_F(SkyManagerTest, DrawsAroundTheCameraWithEachQuadsBlending) {
     for (const test::DrawCall& call : renderer.calls) {
         EXPECT_EQ(call.offset.toString(), "100,50,-300");
         EXPECT_TRUE(call.blending);
+        EXPECT_FALSE(call.depthWrite);
     }
     EXPECT_FALSE(renderer.calls[0].additive || renderer.calls[0].texturing);
-    EXPECT_TRUE(renderer.calls[0].depthWrite);
     EXPECT_TRUE(renderer.calls[1].additive && renderer.calls[1].texturing &&
                 renderer.calls[1].clamp);
     EXPECT_EQ(renderer.calls[1].text, "t.png");
     EXPECT_FALSE(renderer.calls[2].texturing);
     EXPECT_EQ(renderer.calls[3].text, "system 1");
-    EXPECT_FALSE(renderer.calls[3].depthWrite);
     EXPECT_TRUE(renderer.state.depthWrite);
     EXPECT_EQ(renderer.matrixDepth(), 0);
 }
