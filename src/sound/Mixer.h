@@ -59,6 +59,7 @@ class Mixer {
     virtual void onMusicFinished(void (*hook)()) = 0;
 
   protected:
+    static constexpr const char* unusable = "No device plays these settings";
     /// Whether a device could sensibly be asked for these; drivers trust what they are given.
     [[nodiscard]] static bool areSettingsUsable(int frequency, int outputs, int bufferSize) {
         return frequency >= 4000 && frequency <= 192000 && (outputs == 1 || outputs == 2) &&

@@ -4,6 +4,7 @@
 
 #include "sound/AudioFile.h"
 
+#include <SDL/SDL.h>
 #include <SDL/SDL_mixer.h>
 
 namespace bc {
@@ -42,11 +43,15 @@ SdlMixer::~SdlMixer() {
 
 bool SdlMixer::open(int frequency, int outputs, int bufferSize) {
     close();
-    if (!areSettingsUsable(frequency, outputs, bufferSize)) {
-        SDL_SetError("No device plays these settings");
+    error_ = unusable;
+    if (!areSettingsUsable(frequency, outputs, bufferSize))
         return false;
-    }
     open_ = Mix_OpenAudio(frequency, AUDIO_S16LSB, outputs, bufferSize) == 0;
+    if (!open_) {
+        error_ = SDL_GetError();
+        // SDL counts as started even when it found no driver, and would look for none again.
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    }
     return open_;
 }
 
@@ -58,7 +63,7 @@ void SdlMixer::close() {
 }
 
 std::string SdlMixer::error() const {
-    return SDL_GetError();
+    return error_;
 }
 
 int SdlMixer::allocateChannels(int count) {

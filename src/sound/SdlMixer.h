@@ -39,6 +39,7 @@ class SdlMixer final : public Mixer {
     // call that reaches them asks this first.
     bool open_ = false;
     int channelCount_ = 0;
+    std::string error_;
 };
 
 }  // namespace bc

@@ -55,7 +55,7 @@ void VirtualMixer::close() {
 }
 
 std::string VirtualMixer::error() const {
-    return "No device plays these settings";
+    return unusable;
 }
 
 int VirtualMixer::allocateChannels(int count) {
