@@ -30,18 +30,18 @@ function(brightclash_floor name)
   endif()
 endfunction()
 
-# brightclash_test(NAME [DISPLAY] SOURCES files... [LIBS libs...] [NEEDS targets...])
+# brightclash_test(NAME [DISPLAY] SOURCES files... [HELPERS files...] [LIBS libs...] [TIMEOUT s])
 # A test program. Without DISPLAY each test case is its own ctest entry; with DISPLAY the
 # program needs a window and runs as one entry under Xvfb.
 function(brightclash_test name)
-  cmake_parse_arguments(ARG "DISPLAY" "TIMEOUT" "SOURCES;LIBS" ${ARGN})
+  cmake_parse_arguments(ARG "DISPLAY" "TIMEOUT" "SOURCES;HELPERS;LIBS" ${ARGN})
   if(NOT ARG_SOURCES)
     return()
   endif()
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
   endif()
-  add_executable(${name} ${ARG_SOURCES})
+  add_executable(${name} ${ARG_SOURCES} ${ARG_HELPERS})
   target_link_libraries(${name} PRIVATE brightclash_options ${ARG_LIBS} GTest::gmock_main)
   # What tests share: "support/RecordingRenderer.h" and the like.
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
@@ -60,12 +60,16 @@ endfunction()
 # tests/FLOOR/*DisplayTest.cpp as a program of its own that draws.
 function(brightclash_floor_tests floor)
   cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
-  file(GLOB all CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${floor}/*Test.cpp)
+  file(GLOB all CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${floor}/*.cpp)
+  # What the folder's tests share belongs to each of its programs.
+  set(shared ${all})
+  list(FILTER shared EXCLUDE REGEX "Test\\.cpp$")
+  list(FILTER all INCLUDE REGEX "Test\\.cpp$")
   set(display ${all})
   list(FILTER display INCLUDE REGEX "DisplayTest\\.cpp$")
   set(plain ${all})
   list(FILTER plain EXCLUDE REGEX "DisplayTest\\.cpp$")
-  brightclash_test(${floor}_test SOURCES ${plain} LIBS brightclash_${floor} ${ARG_LIBS})
-  brightclash_test(${floor}_display_test DISPLAY SOURCES ${display}
+  brightclash_test(${floor}_test SOURCES ${plain} HELPERS ${shared} LIBS brightclash_${floor} ${ARG_LIBS})
+  brightclash_test(${floor}_display_test DISPLAY SOURCES ${display} HELPERS ${shared}
     LIBS brightclash_${floor} ${ARG_LIBS})
 endfunction()

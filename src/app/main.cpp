@@ -1,5 +1,59 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-int main() {
+// Where the program starts: the command line, the log file, and the game's life.
+#include "app/Folders.h"
+#include "app/Game.h"
+#include "app/Options.h"
+#include "app/OutputLog.h"
+#include "app/Version.h"
+#include "core/Log.h"
+#include "core/Random.h"
+#include "core/Ticks.h"
+#include "resources/ResourceManager.h"
+
+#include <cstdio>
+#include <ctime>
+#include <string>
+#include <vector>
+
+namespace {
+
+int play(const bc::Options& options) {
+    bc::logLine("game starting");
+    bc::seedRandom(options.seed.value_or(static_cast<std::uint32_t>(std::time(nullptr))));
+    const bc::OutputLog log("outputlog.txt");
+    bc::resourceManager().addZip("data.zip");
+    if (options.virtualClock)
+        bc::useVirtualTicks();
+    bc::Game game(options);
+    if (!game.init())
+        return 0;
+    game.run();
+    game.shutdown();
+    game.closeDown();
     return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::string error;
+    const auto options = bc::parseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
+    if (!options) {
+        std::fprintf(stderr, "brightclash: %s (--help lists the options)\n", error.c_str());
+        return 2;
+    }
+    if (options->action == bc::Options::Action::help) {
+        std::fputs(bc::usageText().c_str(), stdout);
+        return 0;
+    }
+    if (options->action == bc::Options::Action::version) {
+        std::printf("Brightclash %s\n", bc::versionText());
+        return 0;
+    }
+    if (!bc::chooseFolders(*options, error)) {
+        std::fprintf(stderr, "brightclash: %s\n", error.c_str());
+        return 2;
+    }
+    return play(*options);
 }

@@ -63,6 +63,14 @@ class DefaultGameplay final : public IGameplay {
     [[nodiscard]] bool isRaceActive() const { return raceActive_; }
     /// Milliseconds.
     [[nodiscard]] float raceTime() const { return raceClock_.elapsed(); }
+    /// Starts from zero; goals and blocks of an earlier race count for nothing any more.
+    void raceStart();
+    /// Shows the time so far; nothing while no race runs.
+    void raceCheckpoint();
+    /// Ends the race and shows its time; the clock stops in any case.
+    void raceFinish();
+    /// Calls the race off and puts every block back.
+    void raceReset();
 
   private:
     void carryPlayerOver();

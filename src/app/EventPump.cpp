@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "app/EventPump.h"
+
+#include "core/Text.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace bc {
+
+namespace {
+
+/// The character that a key of the given code types without modifiers, as the window system
+/// would report it.
+int characterOf(int sym) {
+    switch (sym) {
+        case SDLK_RETURN:
+        case SDLK_KP_ENTER:
+            return '\r';
+        case SDLK_TAB:
+        case SDLK_BACKSPACE:
+        case SDLK_ESCAPE:
+            return sym;
+        default:
+            return sym >= 32 && sym < 127 ? sym : 0;
+    }
+}
+
+/// The key that types a character, as far as one key does.
+int symOfCharacter(unsigned char c) {
+    if (c >= 'A' && c <= 'Z')
+        return c - 'A' + 'a';
+    return c < 127 ? c : 0;
+}
+
+std::string restBehind(const std::string& line, std::size_t wordLength) {
+    const std::size_t begin = line.find_first_not_of(' ', wordLength);
+    return begin == std::string::npos ? std::string() : line.substr(begin);
+}
+
+}  // namespace
+
+bool EventPump::poll(SDL_Event& event) {
+    if (!injected_.empty()) {
+        event = injected_.front();
+        injected_.pop_front();
+        return true;
+    }
+    return hasWindow_ && SDL_PollEvent(&event) != 0;
+}
+
+void EventPump::pushKey(bool pressed, int sym, int unicode) {
+    SDL_Event event{};
+    event.type = static_cast<Uint8>(pressed ? SDL_KEYDOWN : SDL_KEYUP);
+    event.key.state = static_cast<Uint8>(pressed ? SDL_PRESSED : SDL_RELEASED);
+    event.key.keysym.sym = static_cast<SDLKey>(sym);
+    event.key.keysym.unicode = static_cast<Uint16>(unicode);
+    injected_.push_back(event);
+}
+
+void EventPump::pushButton(bool pressed, int button) {
+    SDL_Event event{};
+    event.type = static_cast<Uint8>(pressed ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP);
+    event.button.button = static_cast<Uint8>(button);
+    event.button.state = static_cast<Uint8>(pressed ? SDL_PRESSED : SDL_RELEASED);
+    event.button.x = static_cast<Uint16>(mouseX_);
+    event.button.y = static_cast<Uint16>(mouseY_);
+    injected_.push_back(event);
+}
+
+void EventPump::pushMotion(int x, int y) {
+    SDL_Event event{};
+    event.type = SDL_MOUSEMOTION;
+    event.motion.x = static_cast<Uint16>(x);
+    event.motion.y = static_cast<Uint16>(y);
+    event.motion.xrel = static_cast<Sint16>(x - mouseX_);
+    event.motion.yrel = static_cast<Sint16>(y - mouseY_);
+    mouseX_ = x;
+    mouseY_ = y;
+    injected_.push_back(event);
+}
+
+bool EventPump::inject(const std::string& line,
+                       const std::function<int(const std::string&)>& symOf) {
+    std::vector<std::string> words;
+    tokenise(" ", line, words);
+    if (words.empty())
+        return false;
+    const std::string& kind = words[0];
+    if (kind == "@type") {
+        const std::string text = restBehind(line, kind.size());
+        for (const char c : text) {
+            const auto byte = static_cast<unsigned char>(c);
+            pushKey(true, symOfCharacter(byte), byte);
+            pushKey(false, symOfCharacter(byte), 0);
+        }
+        return !text.empty();
+    }
+    if ((kind == "@key" || kind == "@keyup") && words.size() == 2) {
+        const int sym = symOf(words[1]);
+        if (sym < 0)
+            return false;
+        pushKey(kind == "@key", sym, kind == "@key" ? characterOf(sym) : 0);
+        return true;
+    }
+    if (kind == "@move" && words.size() == 3) {
+        // The widest motion that an event can hold.
+        constexpr int limit = 32767;
+        pushMotion(std::clamp(parseInt(words[1]), 0, limit),
+                   std::clamp(parseInt(words[2]), 0, limit));
+        return true;
+    }
+    if ((kind == "@press" || kind == "@release") && words.size() == 2) {
+        const int button = parseInt(words[1]);
+        if (button < 1 || button > 255)
+            return false;
+        pushButton(kind == "@press", button);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace bc

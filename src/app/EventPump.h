@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <SDL/SDL.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+
+namespace bc {
+
+/// The one way of events into the game: those of the window, when there is one, and those that a
+/// script puts in. Injected events come first in each poll.
+class EventPump {
+  public:
+    /// Without a window only injected events are seen.
+    explicit EventPump(bool hasWindow) : hasWindow_(hasWindow) {}
+
+    /// Next pending event; false when there is none.
+    bool poll(SDL_Event& event);
+
+    /// symOf finds the key code of a key name of the key map, -1 for an unknown one.
+    /// False (and nothing injected) for a line that is not a known event or misses its arguments.
+    bool inject(const std::string& line, const std::function<int(const std::string&)>& symOf);
+
+  private:
+    void pushKey(bool pressed, int sym, int unicode);
+    void pushButton(bool pressed, int button);
+    void pushMotion(int x, int y);
+
+    bool hasWindow_;
+    std::deque<SDL_Event> injected_;
+    int mouseX_ = 0;
+    int mouseY_ = 0;
+};
+
+}  // namespace bc

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+// Saved games: the record of a running level and its way back into one.
+#include "app/Game.h"
+#include "app/GameHandles.h"
+#include "console/CommandRegistry.h"
+#include "console/GameInput.h"
+#include "core/IGameplay.h"
+#include "core/IRenderer.h"
+#include "core/Log.h"
+#include "core/Random.h"
+#include "core/Text.h"
+#include "gameplay/Player.h"
+#include "gui/GUIManager.h"
+#include "particles/ParticleManager.h"
+#include "resources/FileSystem.h"
+#include "resources/ResourceManager.h"
+#include "resources/XmlAttributes.h"
+#include "world/BodyFactory.h"
+#include "world/LevelLoader.h"
+
+#include <tinyxml.h>
+
+#include <algorithm>
+#include <optional>
+
+namespace bc {
+
+namespace {
+
+constexpr int saveVersion = 2;
+constexpr int usualDifficulty = 3;
+// Pixels of the picture beside a save.
+constexpr int thumbnailWidth = 320;
+constexpr int thumbnailHeight = 240;
+
+std::string savePath(const std::string& name, const char* ending) {
+    return "saves/" + name + ending;
+}
+
+}  // namespace
+
+void Game::saveGame() {
+    savePending_ = false;
+    if (saveName_.empty())
+        saveName_ = "temp";
+    const std::string path = savePath(saveName_, ".xml");
+    logLine("Saving save game: " + path);
+    if (!files::isSafeName(path) || !levelLoaded_) {
+        consolePrint(levelLoaded_ ? "Can't save under the name: " + saveName_
+                                  : std::string("Can't save: no level is running"));
+        return;
+    }
+    gameplay_->beforeSave();
+    TiXmlDocument document;
+    auto* root = document.LinkEndChild(new TiXmlElement("save"))->ToElement();
+    xml::writeInt(*root, "version", saveVersion);
+    xml::writeString(*root, "currentlevel", currentLevel_);
+    xml::writeInt(*root, "nextbodyid", world_.nextBodyId());
+    if (vars_->difficulty != nullptr)
+        xml::writeInt(*root, "difficulty", std::clamp(vars_->difficulty->intValue(), 1, 4));
+    gameplay_->saveGameplayState(*root);
+    xml::writeString(*root, "random", std::to_string(randomState()));
+    saveEntities(world_, *root);
+    auto* player = root->LinkEndChild(new TiXmlElement("Player"))->ToElement();
+    player_->saveState(*player);
+    TiXmlPrinter printer;
+    document.Accept(&printer);
+    if (!files::replace(path, printer.CStr()))
+        consolePrint("Can't write save file: " + path);
+    if (!gui_->isVisible())
+        renderer_->grabThumbnail();
+    renderer_->saveThumbnail(savePath(saveName_, ".png"), thumbnailWidth, thumbnailHeight);
+    tickClock();
+    gameplay_->tickClock();
+}
+
+bool Game::loadGame(const std::string& name) {
+    const std::string path = savePath(name, ".xml");
+    const auto refuse = [&] {
+        logLine("Can't load save file: " + path);
+        consolePrint("Can't load save file: " + path);
+        return false;
+    };
+    TiXmlDocument document;
+    if (!files::isSafeName(path) || !resourceManager().loadXML(document, path))
+        return refuse();
+    const TiXmlElement* root = document.RootElement();
+    const TiXmlElement* playerNode = root->FirstChildElement("Player");
+    logLine("Loading save game: " + path);
+    // Everything is read before the running level is let go.
+    const std::string level = xml::readString(*root, "currentlevel");
+    std::optional<LevelBodies> bodies = readLevel(*bodyFactory_, level, true);
+    if (!bodies || !readSavedBodies(*bodyFactory_, *root, *bodies))
+        return refuse();
+
+    saveName_ = name;
+    if (vars_->difficulty != nullptr) {
+        const int difficulty = xml::readInt(*root, "difficulty");
+        vars_->difficulty->setInt(difficulty != 0 ? difficulty : usualDifficulty);
+    }
+    unloadMap();
+    world_.quadtree().setSplittable(true);
+    world_.setNextBodyId(xml::readInt(*root, "nextbodyid"));
+    insertBodies(world_, std::move(*bodies), true);
+    currentLevel_ = level;
+    gameplay_->loadGameplayState(*root);
+    insertPlayer();
+    gameInput_->clearActions();
+    gameplay_->startLevel("");
+    if (playerNode != nullptr)
+        restorePlayer(*playerNode);
+    if (xml::has(*root, "random"))
+        setRandomState(
+            static_cast<std::uint32_t>(std::strtoul(root->Attribute("random"), nullptr, 10)));
+    world_.quadtree().setSplittable(false);
+    enterLevel();
+    tickClock();
+    gameplay_->tickClock();
+    return true;
+}
+
+void Game::restorePlayer(const TiXmlElement& node) {
+    player_->loadState(node);
+    player_->autoid = World::playerId;
+    player_->onBeforeTargets();
+    player_->onLoaded();
+    player_->onRestored();
+    player_->onAfterLoad();
+    player_->updateGeometry();
+    player_->computeBounds();
+    world_.quadtree().reinsert(*player_);
+}
+
+}  // namespace bc

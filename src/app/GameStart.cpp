@@ -1,0 +1,336 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+// Start-up in its order, the main loop's frame around the passes, and the end.
+#include "app/Game.h"
+#include "app/GameDumps.h"
+#include "app/GameHandles.h"
+#include "app/GameLogoScene.h"
+#include "console/CommandRegistry.h"
+#include "console/Console.h"
+#include "console/GameInput.h"
+#include "core/GameResourceBundle.h"
+#include "core/IGameplay.h"
+#include "core/IRenderer.h"
+#include "core/ISound.h"
+#include "core/Log.h"
+#include "core/Text.h"
+#include "core/Ticks.h"
+#include "gameplay/DefaultGameplay.h"
+#include "gameplay/GameBodyFactory.h"
+#include "gameplay/Player.h"
+#include "gui/GUIManager.h"
+#include "particles/ParticleManager.h"
+#include "render/HeadlessRenderer.h"
+#include "render/ImageFontRenderer.h"
+#include "render/OverlayEffect.h"
+#include "render/Renderer.h"
+#include "resources/FileSystem.h"
+#include "resources/ResourceManager.h"
+#include "sound/HeadlessSound.h"
+#include "sound/Sound.h"
+#include "world/BodyFactory.h"
+
+#include <SDL/SDL.h>
+
+#include <cstdio>
+
+namespace bc {
+
+namespace {
+
+constexpr const char* firstLevel = "hangar";
+// The player's box in world units, and its mass.
+constexpr float playerSize = 16;
+constexpr float playerMass = 100;
+
+bool startsAMap(const std::string& command) {
+    return command == "map" || command.rfind("map ", 0) == 0 || command.rfind("loadgame", 0) == 0;
+}
+
+}  // namespace
+
+Game::Game(Options options)
+    : options_(std::move(options)),
+      events_(!options_.headless),
+      vars_(std::make_unique<Handles>()),
+      sightLine_(world_) {
+    if (options_.headless) {
+        sound_ = std::make_unique<HeadlessSound>();
+        renderer_ = std::make_unique<HeadlessRenderer>();
+    } else {
+        sound_ = std::make_unique<Sound>();
+        renderer_ = std::make_unique<Renderer>();
+    }
+    renderer_->setFontRenderer(std::make_unique<ImageFontRenderer>());
+    gui_ = std::make_unique<GUIManager>();
+    gui_->setVisible(true);
+    console_ = std::make_unique<Console>();
+    dumps_ = std::make_unique<GameDumps>(*this);
+    commands().setOutput(console_.get());
+    skyManager_.setServices(&skyParticles_, &sightLine_);
+    gui_->setInputManager(&input_);
+}
+
+Game::~Game() {
+    if (!shutDown_)
+        shutdown();
+}
+
+ISound* Game::getSound() {
+    return sound_.get();
+}
+IGUI* Game::getGUIManager() {
+    return gui_.get();
+}
+InputTarget* Game::getGameInput() {
+    return gameInput_.get();
+}
+
+bool Game::init() {
+    logLine("======== GAME INIT ========");
+    commands().registerBuiltinCommands();
+    vars().registerBuiltinCommands();
+    vars().loadDeclarations("data/gamevars.xml");
+    input_.loadKeymap("data/keymaps.xml");
+    input_.init(this, renderer_.get(), gui_.get(), console_.get());
+    input_.registerTarget("gui", gui_.get());
+    input_.registerTarget("console", console_.get());
+    input_.setTarget("gui");
+    if (!initRenderer())
+        return false;
+    initGameplay();
+    registerCommands();
+    initVideoMode();
+    console_->init(this);
+    passScreenSize();
+    sound_->init();
+    sound_->loadSoundDefs("data/sounds/sounds.xml");
+    frameClock_.restart();
+    particleManager().makeDefaultDefinition();
+    particleManager().loadDefinitions("data/particles/particles.xml");
+    particleManager().reloadTextures(*renderer_);
+    skyManager_.init();
+    if (!initFonts())
+        return false;
+    writeRunBanner();
+    if (GameVar* movie = vars().findVar("movierecord"))
+        movie->setInt(0);
+    sound_->startPlaylist("");
+    return true;
+}
+
+bool Game::initRenderer() {
+    if (renderer_->init())
+        return true;
+    std::fprintf(stderr, "brightclash: no window with OpenGL could be opened: %s\n",
+                 SDL_GetError());
+    SDL_Quit();
+    return false;
+}
+
+bool Game::initFonts() {
+    FontRenderer& fonts = *renderer_->getFontRenderer();
+    fonts.setRenderer(renderer_.get());
+    if (fonts.init())
+        return true;
+    logLine("Error Initialising font renderer");
+    std::fprintf(stderr, "brightclash: the fonts under %s/data/fonts cannot be read\n",
+                 files::dataFolder().c_str());
+    return false;
+}
+
+void Game::initGameplay() {
+    setGameplay(std::make_unique<DefaultGameplay>());
+    std::unique_ptr<InputTarget> target = gameplay_->createInputTarget();
+    gameInput_.reset(dynamic_cast<GameInput*>(target.release()));
+    gameInput_->setRenderer(renderer_.get());
+    gameInput_->init();
+    input_.registerTarget("game", gameInput_.get());
+    bodyFactory_ = std::make_unique<BodyFactory>();
+    bodyFactory_->registerDefaults();
+    bodyFactory_->setFallback(gameplay_->getFactory());
+    player_ = gameplay_->createBody("player");
+    player_->autoid = 1;
+    player_->makeBox(playerSize, playerSize);
+    player_->mass = playerMass;
+    player_->invMass = 1 / playerMass;
+    player_->computeBounds();
+    world_.setPlayer(player_.get());
+}
+
+void Game::initVideoMode() {
+    GameVar* width = vars().getVar("vidwidth");
+    GameVar* height = vars().getVar("vidheight");
+    GameVar* fullscreen = vars().getVar("vidfullscreen");
+    GameVar* firstRun = vars().getVar("firstrun");
+    if (options_.width) {
+        width->setInt(*options_.width);
+        height->setInt(*options_.height);
+        fullscreen->setInt(0);
+        firstRun->setString("0");
+    }
+    if (options_.fullscreen)
+        fullscreen->setInt(1);
+    if (options_.headless) {
+        // The books of a run without a window are those of the usual one.
+        renderer_->setVideoMode(options_.width.value_or(1024), options_.height.value_or(768),
+                                false);
+        return;
+    }
+    if (firstRun->intValue() == 1) {
+        firstRun->setString("0");
+        const SDL_VideoInfo* desktop = SDL_GetVideoInfo();
+        const int w = desktop->current_w;
+        const int h = desktop->current_h;
+        logLine("Current Desktop Res: " + std::to_string(w) + " x " + std::to_string(h));
+        renderer_->setVideoMode(w, h, true);
+        width->setInt(w);
+        height->setInt(h);
+        fullscreen->setInt(1);
+        return;
+    }
+    renderer_->setVideoMode(width->intValue(), height->intValue(), fullscreen->intValue() > 0);
+}
+
+void Game::passScreenSize() {
+    const int w = renderer_->getWidth();
+    const int h = renderer_->getHeight();
+    if (gameplay_)
+        gameplay_->setScreenSize(w, h);
+    gui_->setScreenSize(static_cast<float>(w), static_cast<float>(h));
+    console_->setScreenSize(w, h);
+}
+
+void Game::setVideoMode(int width, int height, bool fullscreen) {
+    vars().getVar("vidwidth")->setInt(width);
+    vars().getVar("vidheight")->setInt(height);
+    vars().getVar("vidfullscreen")->setInt(fullscreen ? 1 : 0);
+    renderer_->setVideoMode(width, height, fullscreen);
+    renderer_->getFontRenderer()->init();
+    passScreenSize();
+    particleManager().reloadTextures(*renderer_);
+    for (Body* body : world_.allBodies())
+        body->textureHandle = -1;
+}
+
+void Game::writeRunBanner() {
+    const GameVar* record = vars().findVar("recordleveltimes");
+    if (record == nullptr || record->intValue() <= 0)
+        return;
+    files::append("leveltimes.txt",
+                  "\n\n===============================\n New Run \n"
+                  "===============================\n");
+}
+
+void Game::loadScript() {
+    if (options_.scriptFile.empty())
+        return;
+    std::string text;
+    std::string error = "cannot be read";
+    // Named on the command line by the person who runs the game: any path will do.
+    if (std::FILE* file = std::fopen(options_.scriptFile.c_str(), "rb")) {
+        char chunk[4096];
+        while (const std::size_t n = std::fread(chunk, 1, sizeof chunk, file))
+            text.append(chunk, n);
+        std::fclose(file);
+        if (script_.parse(text, error))
+            return;
+    }
+    const std::string message = "Script " + options_.scriptFile + ": " + error;
+    logLine(message);
+    std::fprintf(stderr, "brightclash: %s\n", message.c_str());
+}
+
+void Game::run() {
+    startTicks_ = ticks();
+    loadScript();
+    if (!options_.skipLogo)
+        GameLogoScene(*this).run();
+    bool mapGiven = false;
+    for (const std::string& command : options_.commands) {
+        mapGiven = mapGiven || startsAMap(command);
+        commands().execute(command);
+    }
+    if (!mapGiven)
+        commands().execute(std::string("map ") + firstLevel);
+    for (pass_ = 0; !quitRequested_; ++pass_) {
+        if (options_.frames && pass_ >= *options_.frames)
+            break;
+        advanceClock();
+        script_.runDue(pass_, [this](const std::string& line) { runScriptLine(line); });
+        pumpEvents();
+        if (!quitRequested_)
+            runFrame();
+    }
+}
+
+void Game::setGameplay(std::unique_ptr<IGameplay> gameplay) {
+    deleteGameplay();
+    gameplay_ = std::move(gameplay);
+    auto bundle = std::make_unique<GameResourceBundle>();
+    bundle->game = this;
+    bundle->sound = sound_.get();
+    bundle->renderer = renderer_.get();
+    bundle->input = &input_;
+    bundle->gui = gui_.get();
+    bundle->console = console_.get();
+    bundle->timer = &frameClock_;
+    bundle->quadtree = &world_.quadtree();
+    bundle->player = player_.get();
+    bundle->bodyFactory = bodyFactory_.get();
+    gameplay_->setScreenSize(renderer_->getWidth(), renderer_->getHeight());
+    gameplay_->init(std::move(bundle));
+}
+
+bool Game::deleteGameplay() {
+    if (!gameplay_)
+        return true;
+    gameplay_->shutdown();
+    gameplay_.reset();
+    return false;
+}
+
+void Game::setPlayer(Body* player) {
+    // The application keeps one player for its whole run; only the world's view can change.
+    world_.setPlayer(player);
+}
+
+void Game::shutdown() {
+    // Bodies look at the controller while they go, so they go first.
+    skyManager_.unloadAll();
+    world_.deleteBodies();
+    world_.clear();
+    deleteGameplay();
+    if (gameInput_)
+        writeConfig("data/config.txt", true);
+    sound_->shutdown();
+    commands().setOutput(nullptr);
+    gui_.reset();
+    particleManager().clear();
+    renderer_.reset();
+    console_.reset();
+    sound_.reset();
+    world_.setPlayer(nullptr);
+    player_.reset();
+    gameInput_.reset();
+    bodyFactory_.reset();
+    resourceManager().release();
+    commands().clearCommands();
+    vars().clearVars();
+    shutDown_ = true;
+}
+
+void Game::closeDown() {
+    if (!options_.headless)
+        SDL_WM_GrabInput(SDL_GRAB_OFF);
+    const float seconds = static_cast<float>(ticks() - startTicks_) / 1000.0F;
+    if (!options_.headless) {
+        SDL_CloseAudio();
+        SDL_Quit();
+    }
+    const float frames = static_cast<float>(frameCount_);
+    logLine("AVG FPS:" + formatFloat(seconds > 0 ? frames / seconds : 0));
+    setQuit(true);
+}
+
+}  // namespace bc

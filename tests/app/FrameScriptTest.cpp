@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "app/EventPump.h"
+#include "app/FrameScript.h"
+
+#include <gtest/gtest.h>
+
+namespace bc {
+namespace {
+
+TEST(FrameScript, RunsDueLinesInFileOrderOnce) {
+    FrameScript script;
+    std::string error;
+    ASSERT_TRUE(
+        script.parse("# a comment\n"
+                     "5 second # not this\n"
+                     "0 first\r\n"
+                     "\n"
+                     "5\t@key A\n"
+                     "9 last",
+                     error))
+        << error;
+    std::vector<std::string> ran;
+    const auto note = [&](const std::string& line) { ran.push_back(line); };
+    script.runDue(0, note);
+    EXPECT_EQ(ran, std::vector<std::string>{"first"});
+    script.runDue(4, note);
+    EXPECT_EQ(ran.size(), 1U);
+    script.runDue(7, note);
+    EXPECT_EQ(ran, (std::vector<std::string>{"first", "second", "@key A"}));
+    script.runDue(100, note);
+    script.runDue(101, note);
+    EXPECT_EQ(ran.size(), 4U);
+}
+
+TEST(FrameScript, ABadLineIsNamedAndNothingRuns) {
+    for (const char* text : {"0 good\nbad line\n", "0 good\n12\n", "0 good\n12x y\n",
+                             "0 good\n-1 y\n", "0 good\n99999999999 y\n"}) {
+        FrameScript script;
+        std::string error;
+        EXPECT_FALSE(script.parse(text, error)) << text;
+        EXPECT_NE(error.find("line 2"), std::string::npos) << error;
+        script.runDue(1000, [](const std::string&) { FAIL(); });
+    }
+}
+
+class EventPumpTest : public testing::Test {
+  protected:
+    bool inject(const std::string& line) {
+        return pump.inject(line,
+                           [](const std::string& name) { return name == "RETURN" ? 13 : -1; });
+    }
+    SDL_Event next() {
+        SDL_Event event{};
+        EXPECT_TRUE(pump.poll(event));
+        return event;
+    }
+    bool empty() {
+        SDL_Event event;
+        return !pump.poll(event);
+    }
+    EventPump pump{false};
+};
+
+TEST_F(EventPumpTest, KeysComeWithTheirCharacters) {
+    ASSERT_TRUE(inject("@key RETURN"));
+    ASSERT_TRUE(inject("@keyup RETURN"));
+    ASSERT_TRUE(inject("@type A b"));
+    SDL_Event e = next();
+    EXPECT_EQ(e.type, SDL_KEYDOWN);
+    EXPECT_EQ(e.key.keysym.sym, 13);
+    EXPECT_EQ(e.key.keysym.unicode, 13);
+    EXPECT_EQ(next().type, SDL_KEYUP);
+    for (const char c : {'A', ' ', 'b'}) {
+        e = next();
+        EXPECT_EQ(e.type, SDL_KEYDOWN);
+        EXPECT_EQ(e.key.keysym.unicode, c);
+        EXPECT_EQ(e.key.keysym.sym, c == 'A' ? 'a' : c);
+        EXPECT_EQ(next().type, SDL_KEYUP);
+    }
+    EXPECT_TRUE(empty());
+}
+
+TEST_F(EventPumpTest, MotionIsRelativeToTheLastPlace) {
+    ASSERT_TRUE(inject("@move 100 50"));
+    ASSERT_TRUE(inject("@move 90 70"));
+    ASSERT_TRUE(inject("@press 3"));
+    SDL_Event e = next();
+    EXPECT_EQ(e.motion.xrel, 100);
+    EXPECT_EQ(e.motion.yrel, 50);
+    e = next();
+    EXPECT_EQ(e.motion.xrel, -10);
+    EXPECT_EQ(e.motion.yrel, 20);
+    e = next();
+    EXPECT_EQ(e.type, SDL_MOUSEBUTTONDOWN);
+    EXPECT_EQ(e.button.button, 3);
+    EXPECT_EQ(e.button.x, 90);
+    EXPECT_EQ(e.button.y, 70);
+}
+
+TEST_F(EventPumpTest, WhatIsNoEventInjectsNothing) {
+    for (const char* line : {"@key", "@key NOSUCH", "@move 1", "@press", "@press 0", "@press 900",
+                             "@type", "@dance 1", "@"})
+        EXPECT_FALSE(inject(line)) << line;
+    EXPECT_TRUE(empty());
+}
+
+}  // namespace
+}  // namespace bc
