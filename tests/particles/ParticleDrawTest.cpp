@@ -103,7 +103,6 @@ TEST_F(ParticleDrawTest, WhatIsFadedShrunkOrOutOfViewIsNotDrawn) {
     shrunk.dimension = {-1, 4};
     started(shrunk);
     started(base("far"), {5000, 0, 0}, {5000, 0, 0});
-    started(base("invisible")).setVisible(false);
     started(base("far but shown"), {5000, 0, 0}, {5000, 0, 0}).setCulled(false);
     renderer.frustum.setInternals(45, 1, 0.1F, 4096);
     renderer.frustum.setView({0, 0, -256}, {0, 0, 256}, {0, 1, 0});

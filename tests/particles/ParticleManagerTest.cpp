@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "particles/ParticleManager.h"
 #include "particles/ParticleSystemObserver.h"
-#include "particles/SkyParticleSystems.h"
 #include "render/Frustum.h"
 #include "resources/FileSystem.h"
 #include "support/AllocationCounter.h"
@@ -205,27 +204,19 @@ TEST_F(ParticleManagerTest, FloodsAreBounded) {
     EXPECT_EQ(manager.systems().size(), ParticleManager::systemLimit);
 }
 
-TEST_F(ParticleManagerTest, SkiesRunTheirOwn) {
+TEST_F(ParticleManagerTest, InvisibleSystemsRunAndAreDrawnByTheirOwner) {
     test::RecordingRenderer renderer;
     manager.addDefinition(definition("stars", 5));
-    SkyParticleSystems skies;
-    const int handle = skies.start("stars", {9000, 0, 50});
-    ParticleSystem* system = manager.find(handle);
-    ASSERT_NE(system, nullptr);
-    EXPECT_TRUE(system->position().equals({9000, 0, 50}));
+    ParticleSystem* system = startParticles("stars", {9000, 0, 50});
+    system->setVisible(false);
     manager.update(0.01F, viewAt(0, 0));
     EXPECT_EQ(system->sinceLastStep(), 0);
-    renderer.frustum = viewAt(0, 0);
+    renderer.frustum = viewAt(9000, 0);
     manager.draw(renderer);
     EXPECT_TRUE(renderer.calls.empty());
-    skies.draw(renderer, handle);
+    manager.drawSystem(renderer, *system);
     ASSERT_EQ(renderer.calls.size(), 1U);
     EXPECT_EQ(renderer.calls[0].corners.size(), 20U);
-    skies.stop(handle, 0.5F);
-    manager.update(0.6F, everything);
-    skies.draw(renderer, handle);
-    skies.stop(handle, 1);
-    EXPECT_EQ(renderer.calls.size(), 1U);
 }
 
 class ParticleFileTest : public ParticleManagerTest {

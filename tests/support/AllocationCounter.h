@@ -21,6 +21,8 @@ class AllocationCounter {
 
 }  // namespace bc::test
 
+// Replacements of the allocation functions must not be inline.
+// NOLINTBEGIN(misc-definitions-in-headers)
 [[gnu::noinline]] void* operator new(std::size_t size) {
     ++bc::test::allocations;
     if (void* memory = std::malloc(size > 0 ? size : 1))
@@ -46,3 +48,4 @@ class AllocationCounter {
 [[gnu::noinline]] void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
     std::free(memory);
 }
+// NOLINTEND(misc-definitions-in-headers)

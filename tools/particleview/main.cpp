@@ -116,12 +116,12 @@ void copyTile(Image& sheet, const Options& options, int column, int row) {
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
     glReadPixels((windowWidth - w) / 2, (windowHeight - h) / 2, w, h, GL_RGB, GL_UNSIGNED_BYTE,
                  pixels.data());
+    const auto bytesOf = [](int pixelCount) { return static_cast<std::ptrdiff_t>(pixelCount) * 3; };
     const int bottom = sheet.height - (row + 1) * h;
     for (int y = 0; y < h; ++y) {
-        const auto* from = pixels.data() + static_cast<std::ptrdiff_t>(y) * w * 3;
-        std::copy(from, from + static_cast<std::ptrdiff_t>(w) * 3,
-                  sheet.pixels.begin() +
-                      (static_cast<std::ptrdiff_t>(bottom + y) * sheet.width + column * w) * 3);
+        const auto* from = pixels.data() + bytesOf(y * w);
+        std::copy(from, from + bytesOf(w),
+                  sheet.pixels.begin() + bytesOf((bottom + y) * sheet.width + column * w));
     }
 }
 
