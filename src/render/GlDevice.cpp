@@ -74,6 +74,8 @@ void GlDevice::reset() {
     glTexCoordPointer(2, GL_FLOAT, stride, &corners_[0].u);
     glColorPointer(4, GL_UNSIGNED_BYTE, stride, &corners_[0].r);
 
+    pages_.removeAll();
+    places_.clear();
     boundTexture_ = 0;
     actual_ = DrawState{};
     actual_.depthTest = true;
@@ -184,6 +186,20 @@ void GlDevice::uploadTexture(int id, const Image& image, bool clamp) {
     const GLenum format = image.bitsPerPixel == 32 ? GL_RGBA : GL_RGB;
     gluBuild2DMipmaps(GL_TEXTURE_2D, static_cast<GLint>(format), image.width, image.height, format,
                       GL_UNSIGNED_BYTE, image.pixels.data());
+    if (const std::optional<TexturePlace> place = pages_.add(image, clamp)) {
+        const auto index = static_cast<std::size_t>(id);
+        if (index >= places_.size())
+            places_.resize(index + 1);
+        places_[index] = *place;
+        boundTexture_ = place->texture;
+    }
+}
+
+TexturePlace GlDevice::placeOf(int texture, bool tiles) const {
+    const auto index = static_cast<std::size_t>(texture);
+    if (!tiles && index < places_.size() && places_[index].texture != 0)
+        return places_[index];
+    return {.texture = texture};
 }
 
 void GlDevice::deleteTexture(int id) {
@@ -194,6 +210,11 @@ void GlDevice::deleteTexture(int id) {
     glDeleteTextures(1, &name);
     if (boundTexture_ == id)
         boundTexture_ = 0;
+    const auto index = static_cast<std::size_t>(id);
+    if (index < places_.size() && places_[index].texture != 0) {
+        pages_.remove(places_[index]);
+        places_[index] = TexturePlace{};
+    }
 }
 
 void GlDevice::makeBlankTexture(int id, int width, int height) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "render/RenderDevice.h"
+#include "render/TexturePages.h"
 
 #include <vector>
 
@@ -18,6 +19,7 @@ class GlDevice final : public RenderDevice {
     void uploadTexture(int id, const Image& image, bool clamp) override;
     void deleteTexture(int id) override;
     QuadVertex* allot(Primitive primitive, const DrawState& state, std::size_t corners) override;
+    TexturePlace placeOf(int texture, bool tiles) const override;
     void reset() override;
     void setProjection(const Matrix4& projection) override;
     void setViewport(int x, int y, int width, int height) override;
@@ -44,6 +46,9 @@ class GlDevice final : public RenderDevice {
     /// What GL has at this moment. The texture survives in its binding while texturing is off.
     DrawState actual_;
     int boundTexture_ = 0;
+    TexturePages pages_;
+    /// By texture id; texture 0: it stands alone.
+    std::vector<TexturePlace> places_;
 };
 
 }  // namespace bc

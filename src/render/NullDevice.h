@@ -15,6 +15,9 @@ class NullDevice final : public RenderDevice {
                       std::size_t /*corners*/) override {
         return nullptr;
     }
+    TexturePlace placeOf(int texture, bool /*tiles*/) const override {
+        return {.texture = texture};
+    }
     void reset() override {}
     void setProjection(const Matrix4& /*projection*/) override {}
     void setViewport(int /*x*/, int /*y*/, int /*width*/, int /*height*/) override {}

@@ -42,6 +42,16 @@ struct DrawState {
     friend bool operator==(const DrawState&, const DrawState&) = default;
 };
 
+/// Where an image lies on the texture that it is drawn from: a coordinate of the image, times
+/// the scale, plus the offset.
+struct TexturePlace {
+    int texture = 0;
+    float scaleU = 1;
+    float scaleV = 1;
+    float offsetU = 0;
+    float offsetV = 0;
+};
+
 /// What really draws: corners come in eye space, in the order of drawing. Consecutive shapes of
 /// one kind and one state are drawn together.
 class RenderDevice : public TextureStore {
@@ -53,6 +63,8 @@ class RenderDevice : public TextureStore {
     /// drawn at all. Quads take four, triangles three, lines two each.
     [[nodiscard]] virtual QuadVertex* allot(Primitive primitive, const DrawState& state,
                                             std::size_t corners) = 0;
+    /// Where to draw a texture from. tiles: some coordinate lies outside of 0 to 1.
+    [[nodiscard]] virtual TexturePlace placeOf(int texture, bool tiles) const = 0;
     /// After a change of mode: all state from the ground up.
     virtual void reset() = 0;
     virtual void setProjection(const Matrix4& projection) = 0;

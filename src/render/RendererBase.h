@@ -172,7 +172,8 @@ class RendererBase : public IRenderer {
 
     // Corners.
     [[nodiscard]] DrawState currentState() const;
-    [[nodiscard]] QuadVertex* allot(Primitive primitive, std::size_t corners);
+    /// tiles: some texture coordinate lies outside of 0 to 1. Sets the place that put maps to.
+    [[nodiscard]] QuadVertex* allot(Primitive primitive, std::size_t corners, bool tiles = false);
     void put(QuadVertex& out, float x, float y, float z, float u, float v, Colour colour) const;
     void modelviewChanged();
     void setProjection(const Matrix4& projection);
@@ -213,6 +214,7 @@ class RendererBase : public IRenderer {
     Frustum frustum_;
     MatrixStack modelview_;
     MatrixStack projection_;
+    TexturePlace place_;
     EyeTransform eye_{{1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0}};
     bool fullscreen_ = false;
     bool in2D_ = false;

@@ -119,17 +119,26 @@ void RendererBase::fillBody(Drawable& body) {
     TextureTransform texture;
     if (body.hasTextureTransform())
         body.textureTransform(texture);
+    const auto coordinate = [&](std::size_t i) {
+        const TexCoord t = i < body.texCoords.size() ? body.texCoords[i] : TexCoord{};
+        return TexCoord(t.u * texture.scaleX + texture.offsetX,
+                        t.v * texture.scaleY + texture.offsetY);
+    };
     const auto corner = [&](QuadVertex& out, std::size_t i) {
         const Vector& p = body.localVertices[i];
-        const TexCoord t = i < body.texCoords.size() ? body.texCoords[i] : TexCoord{};
+        const TexCoord t = coordinate(i);
         const Colour colour = i < body.colours.size() ? toColour(body.colours[i]) : Colour{};
-        put(out, p.x, p.y, p.z, t.u * texture.scaleX + texture.offsetX,
-            t.v * texture.scaleY + texture.offsetY, colour);
+        put(out, p.x, p.y, p.z, t.u, t.v, colour);
     };
+    bool tiles = false;
+    for (std::size_t i = 0; texturing_ && i < count; ++i) {
+        const TexCoord t = coordinate(i);
+        tiles = tiles || !(t.u >= 0 && t.u <= 1 && t.v >= 0 && t.v <= 1);
+    }
     constexpr std::size_t grant = RenderDevice::maxCorners / 3;
     for (std::size_t first = 0; first < count - 2; first += grant) {
         const std::size_t triangles = std::min(grant, count - 2 - first);
-        QuadVertex* out = allot(Primitive::triangles, triangles * 3);
+        QuadVertex* out = allot(Primitive::triangles, triangles * 3, tiles);
         for (std::size_t i = first; out != nullptr && i < first + triangles; ++i, out += 3) {
             corner(out[0], 0);
             corner(out[1], i + 1);

@@ -24,10 +24,24 @@ void inGrants(std::size_t shapes, std::size_t cornersEach, const Use& use) {
         use(first, std::min(most, shapes - first));
 }
 
+/// Whether a texture coordinate leaves the image, so that it repeats. NaN does.
+bool leavesImage(float u, float v) {
+    return !(u >= 0 && u <= 1 && v >= 0 && v <= 1);
+}
+
+bool leavesImage(std::span<const QuadVertex> corners) {
+    return std::any_of(corners.begin(), corners.end(),
+                       [](const QuadVertex& c) { return leavesImage(c.u, c.v); });
+}
+
 }  // namespace
 
-QuadVertex* RendererBase::allot(Primitive primitive, std::size_t corners) {
+QuadVertex* RendererBase::allot(Primitive primitive, std::size_t corners, bool tiles) {
     DrawState state = currentState();
+    if (state.texture != 0) {
+        place_ = device_.placeOf(state.texture, tiles);
+        state.texture = place_.texture;
+    }
     if (primitive != Primitive::lines)
         state.lineWidth = 1;
     return device_.allot(primitive, state, corners);
@@ -39,8 +53,8 @@ void RendererBase::put(QuadVertex& out, float x, float y, float z, float u, floa
     out = {m[0] * x + m[3] * y + m[6] * z + m[9],
            m[1] * x + m[4] * y + m[7] * z + m[10],
            m[2] * x + m[5] * y + m[8] * z + m[11],
-           u,
-           v,
+           u * place_.scaleU + place_.offsetU,
+           v * place_.scaleV + place_.offsetV,
            colour.r,
            colour.g,
            colour.b,
@@ -70,7 +84,9 @@ void RendererBase::drawQuad(const Quad& quad) {
         return;
     recorder_.operation("drawQuadOf", vertices[0].x, vertices[0].y, vertices[0].z, vertices[2].x,
                         vertices[2].y, quad.name);
-    QuadVertex* out = allot(Primitive::quads, 4);
+    const bool tiles = std::any_of(vertices.begin(), vertices.end(),
+                                   [](const Vertex& v) { return leavesImage(v.u, v.v); });
+    QuadVertex* out = allot(Primitive::quads, 4, tiles);
     if (out == nullptr)
         return;
     for (const Vertex& v : vertices)
@@ -85,7 +101,7 @@ void RendererBase::drawTiledQuad(float x, float y, float z, float w, float h) {
         texture = textures_.byId(textures_.boundId());
     const float tw = texture != nullptr ? static_cast<float>(texture->width) : 1.0F;
     const float th = texture != nullptr ? static_cast<float>(texture->height) : 1.0F;
-    QuadVertex* out = allot(Primitive::quads, 4);
+    QuadVertex* out = allot(Primitive::quads, 4, true);
     if (out == nullptr)
         return;
     put(out[0], x, y, z, x / tw, y / th, colour_);
@@ -127,10 +143,11 @@ void RendererBase::drawQuads(std::span<const QuadVertex> corners) {
     const QuadVertex& c = corners.front();
     recorder_.operation("drawQuads", quads, c.x, c.y, c.z, +c.r, +c.g, +c.b, +c.a);
     inGrants(quads, 4, [&](std::size_t first, std::size_t count) {
-        QuadVertex* out = allot(Primitive::quads, count * 4);
+        const auto part = corners.subspan(first * 4, count * 4);
+        QuadVertex* out = allot(Primitive::quads, count * 4, texturing_ && leavesImage(part));
         if (out == nullptr)
             return;
-        for (const QuadVertex& v : corners.subspan(first * 4, count * 4))
+        for (const QuadVertex& v : part)
             put(*out++, v.x, v.y, v.z, v.u, v.v, {v.r, v.g, v.b, v.a});
     });
 }

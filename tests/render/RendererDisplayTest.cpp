@@ -6,8 +6,9 @@
 #include "render/Renderer.h"
 #include "support/DisplayFixture.h"
 
-#include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace bc {
 namespace {
@@ -103,6 +104,45 @@ TEST_F(RendererDisplayTest, BlendsAsAskedInTheOrderOfTheCalls) {
     EXPECT_TRUE(isColour(at(80, 250), 178, 153, 128));
     EXPECT_TRUE(isColour(at(250, 250), 178, 25, 0));
     EXPECT_TRUE(isColour(at(30, 270), 0, 255, 0));
+}
+
+// Small images share textures; what is drawn must not show it, neither smaller nor larger than
+// the image, nor after some made room for others.
+TEST_F(RendererDisplayTest, SmallImagesDoNotRunIntoEachOther) {
+    constexpr Pixel colours[] = {
+        {255, 0, 0, 255}, {0, 255, 0, 255}, {0, 0, 255, 255}, {255, 255, 255, 255}};
+    std::vector<std::pair<std::string, Pixel>> images;
+    const auto add = [&](int i, const Pixel& colour) {
+        const std::string name = std::to_string(i) + ".png";
+        makeImage(name, 16 << i % 4, colour);
+        images.emplace_back(name, colour);
+    };
+    for (int i = 0; i < 24; ++i)
+        add(i, colours[i % 3]);
+    const auto check = [&] {
+        begin2D();
+        renderer->setColour(255, 255, 255);
+        for (std::size_t i = 0; i < images.size(); ++i) {
+            const auto x = static_cast<float>(i * 24);
+            renderer->drawImage(x, 100, 0, 4, 4, images[i].first, false, i % 2 == 0);
+            renderer->drawImage(x, 200, 0, 20, 80, images[i].first, false, i % 2 == 0);
+        }
+        finish();
+        for (std::size_t i = 0; i < images.size(); ++i) {
+            const int x = static_cast<int>(i * 24);
+            const Pixel& c = images[i].second;
+            for (const auto& [px, py] : {std::pair(x, 99), {x + 3, 96}, {x, 199}, {x + 19, 120}})
+                EXPECT_TRUE(isColour(at(px, py), c[0], c[1], c[2], 2)) << i << " at " << px;
+        }
+    };
+    check();
+    for (std::size_t i = 0; i < images.size(); i += 2)
+        renderer->unloadTexture(images[i].first);
+    for (int i = 0; i < 24; i += 2) {
+        makeImage(std::to_string(i) + ".png", 16 << i % 4, colours[3]);
+        images[static_cast<std::size_t>(i)].second = colours[3];
+    }
+    check();
 }
 
 TEST_F(RendererDisplayTest, TilesKeepToTheCoordinates) {
