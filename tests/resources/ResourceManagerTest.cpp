@@ -209,7 +209,7 @@ TEST_F(ResourceManagerTest, BadXmlIsRefusedWithAReason) {
 
 // A first byte that claims three more at the very end of the text, and inside a value.
 TEST_F(ResourceManagerTest, BrokenUtf8StaysInsideTheText) {
-    put(user() + "/u.xml", "<r a=\"\xF0\" b=\"2\">\xE4</r>\xF0");
+    put(user() + "/u.xml", "<?xml version=\"1.0\"?><r a=\"\xF0\" b=\"2\">\xE4</r>\xF0");
     TiXmlDocument document;
     ASSERT_TRUE(manager.loadXML(document, "u.xml"));
     EXPECT_EQ(xml::readInt(*document.RootElement(), "b"), 2);

@@ -44,6 +44,7 @@ TEST(XmlGuard, NothingHidesLevelsFromTheCount) {
           "<?xml version='?>' <!-- ?>", "<r a=", "<r a=b\">", "<r \"<!--\">", "< <!--", "</x",
           "</x></y>", "<1 a=\"<!--\">", "\xEF\xBB\xBF"})
         EXPECT_NE(xmlRefusal(beginning + repeated("<a>", 300)), "") << beginning;
+    EXPECT_NE(xmlRefusal(repeated("</x>", 100) + repeated("<a>", 300)), "");
 }
 
 TEST(XmlGuard, FaultsOfFormAreLeftToTheParser) {
