@@ -3,6 +3,7 @@
 #include "console/GameVar.h"
 #include "render/GameHUD.h"
 #include "render/HudPlayer.h"
+#include "support/AllocationCounter.h"
 #include "support/RecordingRenderer.h"
 
 #include <gtest/gtest.h>
@@ -322,6 +323,31 @@ TEST_F(GameHUDTest, UpgradeScreenShowsLevelsReachedInWhite) {
     hud.setUpgradeScreenShown(false);
     for (const char* hidden : {"upgrades background", "upgrades title", "upgrade 1", "upgrade 12"})
         EXPECT_FALSE(shown(hidden)) << hidden;
+}
+
+TEST_F(GameHUDTest, FramesAllocateNothingOnceWarm) {
+    renderer.recording = false;
+    player.race = true;
+    player.quadMs = 30000;
+    hud.weaponSelected(3);
+    hud.showMessage("a message that is longer than a short string");
+    hud.setUpgradeScreenShown(true);
+    const auto frame = [&](int i) {
+        player.health = 20 + i % 30;
+        player.quadMs -= 16;
+        player.raceMs += 16.5F;
+        player.swarmMs = static_cast<float>(i % 25) * 1000;
+        player.weapon = 2 + i % 2;
+        updateAt(static_cast<float>(i));
+        hud.draw(renderer, 0.016F);
+    };
+    frame(0);
+    frame(1);
+    const test::AllocationCounter counter;
+    player.weapon = 2;
+    for (int i = 2; i < 200; i += 2)
+        frame(i);
+    EXPECT_EQ(counter.count(), 0);
 }
 
 TEST_F(GameHUDTest, DumpHoldsDeadlinesAndEveryItem) {

@@ -18,6 +18,7 @@ class Frustum {};
 #include <iterator>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace bc::test {
@@ -52,6 +53,8 @@ class RecordingRenderer final : public IRenderer {
     explicit RecordingRenderer(int width = 640, int height = 480);
 
     std::vector<DrawCall> calls;
+    /// False: calls stay as they are, and drawing asks for no memory.
+    bool recording = true;
     /// Deepest nesting of pushMatrix still open; 0 between frames of balanced code.
     int matrixDepth() const { return static_cast<int>(offsets_.size()) - 1; }
     /// The view that code under test sees; without one set in it everything is inside.
@@ -73,11 +76,14 @@ class RecordingRenderer final : public IRenderer {
         return found;
     }
 
-    void record(const std::string& name, const std::string& text, std::vector<float> numbers) {
+    void record(std::string_view name, std::string_view text,
+                std::initializer_list<float> numbers) {
+        if (!recording)
+            return;
         DrawCall call = state;
         call.name = name;
         call.text = text;
-        call.numbers = std::move(numbers);
+        call.numbers = numbers;
         calls.push_back(std::move(call));
     }
 
@@ -237,8 +243,9 @@ class RecordingRenderer final : public IRenderer {
     void dumpTextures(std::ostream&) override {}
     const std::vector<Dimension>& getVideoModes() const override { return modes_; }
     void drawQuads(std::span<const QuadVertex> corners) override {
-        record("drawQuads", state.texturing ? state.text : std::string(), {});
-        calls.back().corners.assign(corners.begin(), corners.end());
+        record("drawQuads", state.texturing ? std::string_view(state.text) : "", {});
+        if (recording)
+            calls.back().corners.assign(corners.begin(), corners.end());
     }
     void setDepthTest(bool) override {}
     void setDepthWrite(bool on) override { state.depthWrite = on; }
@@ -266,13 +273,13 @@ class RecordingRenderer::Fonts final : public FontRenderer {
     void setFont(std::string_view, int size) override { size_ = static_cast<float>(size); }
     void drawText(float x, float y, std::string_view text) override { drawText(x, y, 0, text); }
     void drawText(float x, float y, float z, std::string_view text) override {
-        renderer_.record("drawText", std::string(text), {x, y, z, size_});
+        renderer_.record("drawText", text, {x, y, z, size_});
     }
     void drawShadowText(float x, float y, std::string_view text) override {
         drawShadowText(x, y, 0, text);
     }
     void drawShadowText(float x, float y, float z, std::string_view text) override {
-        renderer_.record("drawShadowText", std::string(text), {x, y, z, size_});
+        renderer_.record("drawShadowText", text, {x, y, z, size_});
     }
     float textWidth(std::string_view text) const override {
         return static_cast<float>(text.size()) * size_ / 2;
