@@ -47,7 +47,14 @@ bool EventPump::poll(SDL_Event& event) {
         injected_.pop_front();
         return true;
     }
-    return hasWindow_ && SDL_PollEvent(&event) != 0;
+    if (!hasWindow_ || SDL_PollEvent(&event) == 0)
+        return false;
+    if (event.type == SDL_MOUSEMOTION) {
+        // What a script moves next, it moves from where the pointer really is.
+        mouseX_ = event.motion.x;
+        mouseY_ = event.motion.y;
+    }
+    return true;
 }
 
 void EventPump::pushKey(bool pressed, int sym, int unicode) {

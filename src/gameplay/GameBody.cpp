@@ -27,6 +27,8 @@ namespace {
 
 /// Levels that wire bodies in a circle are cut off here.
 constexpr int maxTriggerDepth = 64;
+/// What one event can set off in all; a level has some hundreds of bodies.
+constexpr int maxTriggersAtOnce = 10000;
 
 /// What the difficulty makes of damage; without the variable the game is played as normal.
 float difficultyFactor(bool playersSide) {
@@ -242,12 +244,19 @@ void GameBody::spawnText(const Vector& position, std::string_view text, int size
 
 void GameBody::trigger(GameBody* activator) {
     static int depth = 0;
-    if (depth >= maxTriggerDepth) {
-        logLine("Triggers in a circle, cut off at " + id);
+    static int fired = 0;
+    if (depth == 0)
+        fired = 0;
+    // Depth alone would let a circle of relays with two targets each go on for ages.
+    if (depth >= maxTriggerDepth || fired >= maxTriggersAtOnce) {
+        if (fired != maxTriggersAtOnce + 1)
+            logLine("Triggers in a circle, cut off at " + id);
+        fired = maxTriggersAtOnce + 1;
         return;
     }
     playlog::trigger(*this, activator);
     ++depth;
+    ++fired;
     onTriggered(activator);
     --depth;
 }

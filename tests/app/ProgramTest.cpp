@@ -205,7 +205,7 @@ TEST(Program, FrameTimesAreCutIntoSteps) {
     // later.
     const Case cases[] = {
         {"100", "2", "4", "12"}, {"2000", "2", "9", "29"}, {"16", "2", "0", "1"},
-        {"17", "2", "0", "2"},   {"25", "2", "1", "3"},
+        {"17", "2", "0", "2"},   {"25", "2", "1", "2"},
     };
     for (const Case& c : cases) {
         RunGame game;
