@@ -245,13 +245,16 @@ void GameBody::spawnText(const Vector& position, std::string_view text, int size
 void GameBody::trigger(GameBody* activator) {
     static int depth = 0;
     static int fired = 0;
-    if (depth == 0)
+    static bool told = false;
+    if (depth == 0) {
         fired = 0;
+        told = false;
+    }
     // Depth alone would let a circle of relays with two targets each go on for ages.
     if (depth >= maxTriggerDepth || fired >= maxTriggersAtOnce) {
-        if (fired != maxTriggersAtOnce + 1)
+        if (!told)
             logLine("Triggers in a circle, cut off at " + id);
-        fired = maxTriggersAtOnce + 1;
+        told = true;
         return;
     }
     playlog::trigger(*this, activator);

@@ -222,8 +222,8 @@ TEST_F(ParticleManagerTest, InvisibleSystemsRunAndAreDrawnByTheirOwner) {
 class ParticleFileTest : public ParticleManagerTest {
   protected:
     ParticleFileTest() : user_(files::userFolder()), data_(files::dataFolder()) {
-        folder_ = testing::TempDir() + "particles" + std::to_string(std::rand());
-        std::filesystem::create_directories(folder_);
+        folder_ = testing::TempDir() + "particlesXXXXXX";
+        mkdtemp(folder_.data());
         files::setFolders(folder_, folder_);
     }
     ~ParticleFileTest() override {

@@ -42,8 +42,8 @@ struct FakeParticles final : SkyParticles {
 class SkyManagerTest : public testing::Test {
   protected:
     SkyManagerTest() : user_(files::userFolder()), data_(files::dataFolder()) {
-        folder_ = testing::TempDir() + "skies" + std::to_string(std::rand());
-        std::filesystem::create_directories(folder_);
+        folder_ = testing::TempDir() + "skiesXXXXXX";
+        mkdtemp(folder_.data());
         files::setFolders(folder_, folder_);
         files::replace("data/sky/a.xml",
                        "<sky><rect blendstyle='2' mincol='9,0,0,255' maxcol='9,0,0,255'/>"
