@@ -78,6 +78,11 @@ class Compiler {
         Shape shape{&object, ObjectValues(object, *type, {types_, assets_, names}), {}, {}};
         for (const std::string& text : shape.values.faults())
             fault(object, text);
+        // Lists of targets have commas between names, and commands spaces between words.
+        if (object.name.find(',') != std::string::npos)
+            fault(object, "its name has a comma");
+        if (type->use == "marker" && object.name.find(' ') != std::string::npos)
+            fault(object, "the name of a place has a space, so that no command can go there");
         const std::string error = readPolygon(object, shape);
         if (!error.empty())
             fault(object, error);

@@ -140,6 +140,10 @@ TEST_F(LevelCompilerTest, NamesEachFaultWithItsObject) {
         {start + object("trigger", "", angle), thing + "its polygon has to be convex"},
         {start + object("default", "mass=5", angle), thing + "its polygon has to be convex"},
         {start + object("default", "outlined=true", angle), thing + "an outlined polygon"},
+        {start + R"(<object id="7" name="a,b" type="detail" width="9" height="9"/>)",
+         "m.tmx: object 7 \"a,b\": its name has a comma"},
+        {start + R"(<object id="7" name="a b" type="namedpoint"><point/></object>)",
+         "m.tmx: object 7 \"a b\": the name of a place has a space"},
         {object("default"), "m.tmx: has no start point"},
         {start + object("spawnpoint", "startpoint=true"), thing + "is a second start point"},
     };
