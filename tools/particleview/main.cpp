@@ -13,6 +13,7 @@
 #include <SDL/SDL.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -34,6 +35,7 @@ constexpr int windowHeight = 768;
 /// The distance of the game's camera from the plane of play.
 constexpr float cameraDistance = 256;
 constexpr float particleStep = 1.0F / 120;
+constexpr float worldStep = 0.025F;
 
 struct Options {
     std::string data = ".";
@@ -155,8 +157,10 @@ void showEffect(IRenderer& renderer, const Effect& effect, Image& sheet, const O
     for (int frame = 0; frame < options.frames; ++frame) {
         while (time < options.every * static_cast<float>(frame) + 2 * particleStep) {
             time += particleStep;
+            // Bodies carry their systems along in the longer steps of the world.
+            const float moved = std::floor(time / worldStep) * worldStep;
             for (ParticleSystem* system : followers)
-                system->setPosition(Vector(effect.speed * time - 60, 0, 0.2F));
+                system->setPosition(Vector(effect.speed * moved - 60, 0, 0.2F));
             particleManager().update(particleStep, renderer.getFrustum());
         }
         drawFrame(renderer, sheet, options, frame, row);
