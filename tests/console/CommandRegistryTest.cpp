@@ -84,13 +84,6 @@ TEST_F(CommandRegistryTest, FirstRegistrationOfANameWins) {
     EXPECT_EQ(commands().findCommand("nonsense"), nullptr);
 }
 
-TEST_F(CommandRegistryTest, CommandsComeBeforeVariables) {
-    vars().createOrSet("a", "5", "");
-    run("a 7");
-    EXPECT_EQ(value("a"), "5");
-    EXPECT_THAT(calls, ElementsAre("a|7"));
-}
-
 TEST_F(CommandRegistryTest, NestedExecutionLeavesTheCallerAlone) {
     commands().registerCommand("", "outer", [this] {
         commands().execute("a inner; b");
@@ -100,15 +93,6 @@ TEST_F(CommandRegistryTest, NestedExecutionLeavesTheCallerAlone) {
     run("outer 1; a after");
     EXPECT_THAT(calls, ElementsAre("a|inner", "b", "outer|1|none", "a|after"));
     EXPECT_EQ(commands().argCount(), 0);
-}
-
-TEST_F(CommandRegistryTest, HandlerMayClearTheRegistry) {
-    commands().registerCommand("", "gone", [this] {
-        commands().clearCommands();
-        calls.emplace_back("still here");
-    });
-    EXPECT_THAT(run("gone; a"), ElementsAre("Unknown Command: a"));
-    EXPECT_THAT(calls, ElementsAre("still here"));
 }
 
 TEST_F(CommandRegistryTest, ScriptRunsLineByLine) {

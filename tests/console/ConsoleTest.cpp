@@ -224,13 +224,6 @@ TEST_F(ConsoleTest, DumpReplacesAFileOfTheUserFolderOnly) {
     EXPECT_THAT(texts(), ElementsAre("one")) << "nothing is reported";
 }
 
-TEST_F(ConsoleTest, QuitAndTime) {
-    run("time");
-    EXPECT_THAT(texts(), ElementsAre(MatchesRegex("... ... .. ..:..:.. ....\n")));
-    run("quit");
-    EXPECT_TRUE(game.quit);
-}
-
 TEST_F(ConsoleTest, PanelCoversItsPartOfTheScreen) {
     struct Case {
         const char* part;
@@ -253,17 +246,11 @@ TEST_F(ConsoleTest, PanelCoversItsPartOfTheScreen) {
         EXPECT_TRUE(drawn[2].texturing);
         EXPECT_TRUE(drawn[2].blending);
     }
-    console.setOpen(false);
-    EXPECT_THAT(draw(), IsEmpty());
-}
-
-TEST_F(ConsoleTest, BackgroundFollowsItsVariable) {
-    EXPECT_EQ(draw()[0].colour, RGBAColour(0, 0, 0));
     vars().setVar("con_colour", "10,20,30,40");
     EXPECT_EQ(draw()[0].colour, RGBAColour(10, 20, 30, 40));
     EXPECT_FALSE(vars().findVar("con_colour")->changed);
-    vars().setVar("con_colour", "1,2,3");
-    EXPECT_EQ(draw()[0].colour, RGBAColour(10, 20, 30, 40)) << "no colour, no change";
+    console.setOpen(false);
+    EXPECT_THAT(draw(), IsEmpty());
 }
 
 TEST_F(ConsoleTest, LinesRiseFromTheNewestUntilTheTop) {
@@ -292,22 +279,6 @@ TEST_F(ConsoleTest, CursorBlinksOnceASecond) {
         advanceVirtualTicks(ms);
         EXPECT_EQ(draw().back().text, text) << ms;
     }
-}
-
-TEST_F(ConsoleTest, EndlessLinesAreCutAtTheScreen) {
-    console.print(std::string(1 << 20, 'x'));
-    EXPECT_LE(draw()[2].text.size(), 800U);
-}
-
-TEST_F(ConsoleTest, LinesPrintedBeforeInitAreKept) {
-    {
-        Console early;
-        commands().setOutput(&early);
-        consolePrint("hello");
-        EXPECT_EQ(early.getLines().size(), 1U);
-    }
-    EXPECT_EQ(commands().output(), nullptr) << "a console that is gone is printed to no more";
-    consolePrint("nobody");
 }
 
 }  // namespace

@@ -113,17 +113,6 @@ TEST_F(InputManagerTest, EscapeInTheMenusGoesToThem) {
     EXPECT_THAT(renderer.calls, IsEmpty());
 }
 
-TEST_F(InputManagerTest, EscapeWithAnOpenConsoleStaysThere) {
-    startPlay();
-    press(96, '`');
-    notes.clear();
-    press(27, 27);
-    EXPECT_FALSE(guiManager.visible);
-    EXPECT_TRUE(game.worldActive);
-    EXPECT_EQ(input.getTarget(), "console");
-    EXPECT_THAT(notes, IsEmpty());
-}
-
 TEST_F(InputManagerTest, BackquoteOpensTheConsoleOverAnyTargetAndGoesBack) {
     for (const char* from : {"game", "gui"}) {
         input.assignTarget(from);
@@ -134,7 +123,10 @@ TEST_F(InputManagerTest, BackquoteOpensTheConsoleOverAnyTargetAndGoesBack) {
         EXPECT_THAT(notes, ElementsAre(std::string(from) + " lost"));
         press('x', 'x');
         EXPECT_EQ(console.getInput(), "x") << "the backquote itself typed nothing";
+        guiManager.visible = false;
         notes.clear();
+        press(27, 27);
+        EXPECT_FALSE(guiManager.visible) << "the console takes Escape as any key";
         press(96, '`');
         EXPECT_FALSE(console.isOpen());
         EXPECT_EQ(console.getInput(), "");
@@ -188,20 +180,12 @@ TEST_F(InputManagerTest, MousePositionsReachTheTargetBeforeTheMotion) {
 }
 
 TEST_F(InputManagerTest, ModifiersFollowTheMask) {
-    const std::vector<std::pair<int, Modifier>> bits = {
-        {0x1000, Modifier::numLock},      {0x2000, Modifier::capsLock},
-        {0x4000, Modifier::mode},         {0x0040, Modifier::leftControl},
-        {0x0080, Modifier::rightControl}, {0x0001, Modifier::leftShift},
-        {0x0002, Modifier::rightShift},   {0x0100, Modifier::leftAlt},
-        {0x0200, Modifier::rightAlt},     {0x0400, Modifier::leftMeta},
-        {0x0800, Modifier::rightMeta}};
-    for (const auto& [bit, modifier] : bits) {
-        input.updateModifiers(bit);
-        int down = 0;
+    const int bits[] = {0x1000, 0x2000, 0x4000, 0x0040, 0x0080, 0x0001,
+                        0x0002, 0x0100, 0x0200, 0x0400, 0x0800};
+    for (int expected = 0; expected < 11; ++expected) {
+        input.updateModifiers(bits[expected]);
         for (int i = -1; i < 20; ++i)
-            down += input.isModifierDown(i) ? 1 : 0;
-        EXPECT_EQ(down, 1) << bit;
-        EXPECT_TRUE(input.isModifierDown(modifier)) << bit;
+            EXPECT_EQ(input.isModifierDown(i), i == expected) << i;
     }
 }
 

@@ -62,18 +62,5 @@ TEST(Random, EmptyRangeAtZeroDrawsNoNumber) {
     EXPECT_NE(randomState(), state);
 }
 
-TEST(Random, DirectionsAreUnitVectorsAllAround) {
-    seedRandom(5);
-    std::array<int, 4> quadrants{};
-    for (int i = 0; i < 400; ++i) {
-        const Vector d = randomDirection();
-        ASSERT_NEAR(d.length(), 1, 1e-5F);
-        ASSERT_EQ(d.z, 0);
-        ++quadrants[(d.x > 0 ? 1U : 0U) + (d.y > 0 ? 2U : 0U)];
-    }
-    for (const int count : quadrants)
-        EXPECT_GT(count, 60);
-}
-
 }  // namespace
 }  // namespace bc

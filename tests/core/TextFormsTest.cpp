@@ -40,14 +40,6 @@ TEST(TextForms, VectorTakesTwoOrMoreNumbers) {
     EXPECT_EQ(Vector("3,4").length(), 5);
 }
 
-TEST(TextForms, VectorTextLeavesW) {
-    Vector v(1, 2, 3);
-    v.w = 4;
-    v.fromString("5,6,7");
-    EXPECT_EQ(v.w, 4);
-    EXPECT_EQ(v.toString(), "5,6,7");
-}
-
 TEST(TextForms, ColourTakesExactlyFourNumbers) {
     expectReads(RGBAColour(1, 2, 3, 4), {{"255,80,5,255", "255,80,5,255"},
                                          {"255,80,5", "1,2,3,4"},

@@ -26,12 +26,6 @@ TEST(Text, TokensAreNeverEmpty) {
     EXPECT_THAT(tokens(",", ""), IsEmpty());
 }
 
-TEST(Text, TokensAreAppended) {
-    std::vector<std::string> out = {"kept"};
-    tokenise(" ", "new", out);
-    EXPECT_THAT(out, ElementsAre("kept", "new"));
-}
-
 TEST(Text, ComparesWithoutCase) {
     struct Case {
         const char* a;
@@ -61,16 +55,6 @@ TEST(Text, SplitsAtTheLastDot) {
     EXPECT_EQ(extension, "");
 }
 
-TEST(Text, OnlyTrueIsTrue) {
-    EXPECT_TRUE(parseBool("true"));
-    for (const char* text : {"True", "1", "true ", "yes", ""})
-        EXPECT_FALSE(parseBool(text)) << text;
-    const char* missing = nullptr;
-    EXPECT_FALSE(parseBool(missing));
-    EXPECT_STREQ(boolText(true), "true");
-    EXPECT_STREQ(boolText(false), "false");
-}
-
 TEST(Text, FormatsFloatsWithSixDigits) {
     struct Case {
         float value;
@@ -98,12 +82,6 @@ TEST(Text, ReadsTheNumberThatATextBeginsWith) {
     EXPECT_EQ(parseInt("99999999999999999999999"), INT_MAX);
     EXPECT_EQ(parseInt("-99999999999999999999999"), INT_MIN);
     EXPECT_EQ(parseFloat(std::string(5000, '1')), 0) << "too large for a float";
-}
-
-TEST(Text, ReadsNoMoreNumbersThanAsked) {
-    float out[3] = {9, 9, 9};
-    EXPECT_EQ(parseFloats("1,2,3,4", ",", out, 2), 2);
-    EXPECT_THAT(out, ElementsAre(1, 2, 9));
 }
 
 }  // namespace

@@ -29,20 +29,6 @@ TEST(Vector, NormalisingZeroLeavesZero) {
     EXPECT_TRUE(normalised(withW(0, 3, 0, 4)).equals(withW(0, 0.6F, 0, 0.8F)));
 }
 
-TEST(Vector, SettingTwoComponentsClearsDepth) {
-    Vector v = withW(1, 2, 3, 4);
-    v.set(5, 6);
-    EXPECT_TRUE(v.equals(withW(5, 6, 0, 4)));
-    v.set(withW(7, 8, 9, 10));
-    EXPECT_TRUE(v.equals(withW(7, 8, 9, 4))) << "w is not copied";
-}
-
-TEST(Vector, PlanarDistanceIgnoresDepth) {
-    EXPECT_EQ(planarDistance({0, 0, 7}, {3, 4, -7}), 5);
-    EXPECT_EQ(planarDistanceSquared({1, 1}, {4, 5}), 25);
-    EXPECT_EQ(distance({0, 0, 0}, {2, 3, 6}), 7);
-}
-
 TEST(Vector, PointAlongSegmentKeepsToItsEnds) {
     const Vector a(10, 20);
     const Vector b(30, 60);
