@@ -65,6 +65,8 @@ std::map<int, int> levels(const std::vector<int>& samples) {
 
 using Levels = std::map<int, int>;
 
+constexpr long threeRounds = 13230;
+
 TEST_F(SdlMixerTest, DistanceSetsTheLevel) {
     open();
     for (const float distance : {0.0F, 240.0F, 360.0F, 480.0F}) {
@@ -87,18 +89,18 @@ TEST_F(SdlMixerTest, LoopsWithoutAGapAndStops) {
     // Three rounds and more are written before it is stopped.
     const auto written = [this] { return std::filesystem::file_size(output()); };
     const auto before = written();
-    while (written() - before < 4UL * 4410 * 2)
+    while (written() - before < 35280)
         std::this_thread::yield();
     sound.stopChannel(endless);
     playOut();
     const std::vector<int> samples = heard();
     const auto start = std::find(samples.begin(), samples.end(), -3000);
-    ASSERT_GE(samples.end() - start, 3 * 4410);
-    EXPECT_TRUE(std::all_of(start, start + 3 * 4410, [](int s) { return s == -3000; }));
-    EXPECT_EQ(levels(samples)[-3000], 3 * 4410);
+    ASSERT_GE(samples.end() - start, threeRounds);
+    EXPECT_TRUE(std::all_of(start, start + threeRounds, [](int s) { return s == -3000; }));
+    EXPECT_EQ(levels(samples)[-3000], threeRounds);
     const auto again = std::find(samples.begin(), samples.end(), 8000);
-    ASSERT_GE(samples.end() - again, 3 * 4410);
-    EXPECT_TRUE(std::all_of(again, again + 3 * 4410, [](int s) { return s == 8000; }));
+    ASSERT_GE(samples.end() - again, threeRounds);
+    EXPECT_TRUE(std::all_of(again, again + threeRounds, [](int s) { return s == 8000; }));
 }
 
 TEST_F(SdlMixerTest, SoundsAddUpAndVolumeScalesThem) {

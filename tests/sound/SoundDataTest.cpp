@@ -184,7 +184,7 @@ TEST_F(SoundDataTest, MusicIsLongQuietAndLoops) {
              {samples[0], samples[1], samples[samples.size() - 1], samples[samples.size() - 2]})
             EXPECT_LE(std::abs(end), 0.001F) << name;
         // No bar of silence on either side of the seam, and both channels used.
-        const std::size_t second = 2 * 44100;
+        constexpr std::size_t second = 88200;
         EXPECT_GT(power(samples.data(), samples.data() + 2 * second), 1e-6 * 4 * second) << name;
         EXPECT_GT(
             power(samples.data() + samples.size() - 4 * second, samples.data() + samples.size()),

@@ -24,7 +24,8 @@ inline std::string little(std::uint64_t value, int count) {
 
 inline std::string wav(const std::string& samples, std::uint32_t rate = 44100, int outputs = 1,
                        int bits = 16, int format = 1) {
-    const std::uint32_t frame = static_cast<std::uint32_t>(outputs * bits / 8);
+    const std::uint64_t frame =
+        static_cast<std::uint64_t>(outputs) * static_cast<std::uint64_t>(bits) / 8;
     return "RIFF" + little(36 + samples.size(), 4) + "WAVEfmt " + little(16, 4) +
            little(static_cast<std::uint64_t>(format), 2) +
            little(static_cast<std::uint64_t>(outputs), 2) + little(rate, 4) +
