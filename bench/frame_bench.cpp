@@ -174,7 +174,9 @@ class Scene {
         const std::vector<unsigned char> pixels = disc();
         for (int i = 0; i < maxSpriteImages + 2; ++i) {
             const std::string name = "image" + std::to_string(i) + ".tga";
-            writeTga(folder + '/' + name);
+            std::string path = folder;
+            path += '/';
+            writeTga(path += name);
             (i == 0 ? backdrop_ : i > maxSpriteImages ? particle_ : sprites_.emplace_back()) = name;
             makeBareTexture(bareTextures + static_cast<GLuint>(i), pixels);
         }

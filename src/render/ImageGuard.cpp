@@ -4,15 +4,19 @@
 
 #include <zlib.h>
 
-#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
+#include <vector>
 
 namespace bc {
 
 namespace {
 
 constexpr std::string_view pngSignature("\x89PNG\r\n\x1a\n", 8);
+/// Length, type and checksum around the data of a chunk, in bytes.
+constexpr std::size_t pngChunkFrame = 12;
 
 std::uint32_t byteAt(std::string_view bytes, std::size_t at) {
     return static_cast<unsigned char>(bytes[at]);
@@ -70,34 +74,139 @@ std::optional<ImageFacts> readPngHeader(std::string_view data) {
                       channels * static_cast<int>(depth)};
 }
 
-/// From the first chunk to IEND: every length within the file, every checksum right, the header
-/// first and pixels somewhere between.
-std::optional<ImageFacts> inspectPng(std::string_view bytes) {
-    constexpr std::size_t frame = 12;  // length, type and checksum around the data of a chunk
-    std::optional<ImageFacts> facts;
-    bool pixels = false;
-    bytes.remove_prefix(pngSignature.size());
-    while (bytes.size() >= frame) {
-        const std::size_t length = bigEndian32(bytes, 0);
-        if (length > bytes.size() - frame)
-            return std::nullopt;
-        const std::string_view typeAndData = bytes.substr(4, length + 4);
-        const std::string_view type = typeAndData.substr(0, 4);
-        const auto* raw = reinterpret_cast<const Bytef*>(typeAndData.data());
-        if (crc32(0, raw, static_cast<uInt>(typeAndData.size())) != bigEndian32(bytes, length + 8))
-            return std::nullopt;
-        if ((type == "IHDR") == facts.has_value())
-            return std::nullopt;
-        if (!facts) {
-            facts = readPngHeader(typeAndData.substr(4));
-            if (!facts)
-                return std::nullopt;
+/// The size in pixels of one of the images of an interlaced file, pass 0 to 6; the whole image
+/// for any pass of a file that is not interlaced.
+std::pair<int, int> pngPassSize(const ImageFacts& facts, bool interlaced, int pass) {
+    if (!interlaced)
+        return {facts.width, facts.height};
+    constexpr std::array<int, 7> startX{0, 4, 0, 2, 0, 1, 0};
+    constexpr std::array<int, 7> startY{0, 0, 4, 0, 2, 0, 1};
+    constexpr std::array<int, 7> stepX{8, 8, 4, 4, 2, 2, 1};
+    constexpr std::array<int, 7> stepY{8, 8, 8, 4, 4, 2, 2};
+    const auto i = static_cast<std::size_t>(pass);
+    return {(facts.width - startX[i] + stepX[i] - 1) / stepX[i],
+            (facts.height - startY[i] + stepY[i] - 1) / stepY[i]};
+}
+
+/// Unpacks the pixels of a PNG row by row, without keeping them: a decoder that fails half way
+/// does not give back all of its memory, and a broken image is tried again and again.
+class PngRows {
+  public:
+    PngRows(const ImageFacts& facts, bool interlaced) : facts_(facts), interlaced_(interlaced) {
+        started_ = inflateInit(&stream_) == Z_OK;
+        nextPass();
+    }
+    ~PngRows() {
+        if (started_)
+            inflateEnd(&stream_);
+    }
+    PngRows(const PngRows&) = delete;
+    PngRows& operator=(const PngRows&) = delete;
+
+    /// Takes the data of the next chunk; false when it cannot be unpacked to rows.
+    bool feed(std::string_view data) {
+        // zlib does not write to its input, it only lacks the const.
+        stream_.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(data.data()));
+        stream_.avail_in = static_cast<uInt>(data.size());
+        while (started_ && !ended_) {
+            if (rowsLeft_ > 0 && stream_.avail_out == 0)
+                beginRow();
+            const int result = inflate(&stream_, Z_NO_FLUSH);
+            // Nothing more without another chunk (or there is more than the image holds).
+            if (result == Z_BUF_ERROR)
+                return true;
+            ended_ = result == Z_STREAM_END;
+            if (result != Z_OK && !ended_)
+                return false;
+            if (rowsLeft_ > 0 && stream_.avail_out == 0 && !endRow())
+                return false;
         }
-        if (type == "IDAT")
-            pixels = true;
-        if (type == "IEND")
-            return pixels && length == 0 ? facts : std::nullopt;
-        bytes.remove_prefix(length + frame);
+        return started_;
+    }
+    /// Every row was there and nothing more.
+    [[nodiscard]] bool isComplete() const { return ended_ && rowsLeft_ == 0; }
+
+  private:
+    void beginRow() {
+        stream_.next_out = row_.data();
+        stream_.avail_out = static_cast<uInt>(row_.size());
+    }
+    bool endRow() {
+        constexpr Bytef lastFilter = 4;
+        if (row_[0] > lastFilter)
+            return false;
+        if (--rowsLeft_ == 0)
+            nextPass();
+        return true;
+    }
+    /// On to the next pass that has pixels.
+    void nextPass() {
+        while (rowsLeft_ == 0 && pass_ < (interlaced_ ? 7 : 1)) {
+            const auto [width, height] = pngPassSize(facts_, interlaced_, pass_++);
+            if (width <= 0 || height <= 0)
+                continue;
+            rowsLeft_ = height;
+            const auto bits =
+                static_cast<std::size_t>(width) * static_cast<std::size_t>(facts_.bitsPerPixel);
+            row_.assign(1 + (bits + 7) / 8, 0);
+        }
+    }
+
+    ImageFacts facts_;
+    bool interlaced_;
+    z_stream stream_{};
+    bool started_ = false;
+    bool ended_ = false;
+    int pass_ = 0;
+    int rowsLeft_ = 0;
+    std::vector<Bytef> row_;
+};
+
+/// Chunks that a decoder must understand; one that it does not know makes it fail.
+bool isKnownOrOptional(std::string_view type) {
+    const bool optional = (type[0] & 0x20) != 0;
+    return optional || type == "IHDR" || type == "PLTE" || type == "IDAT" || type == "IEND";
+}
+
+struct PngChunk {
+    std::string_view type;
+    std::string_view data;
+};
+
+/// Nothing when bytes do not begin with a whole chunk with the right checksum.
+std::optional<PngChunk> firstChunk(std::string_view bytes) {
+    if (bytes.size() < pngChunkFrame)
+        return std::nullopt;
+    const std::size_t length = bigEndian32(bytes, 0);
+    if (length > bytes.size() - pngChunkFrame)
+        return std::nullopt;
+    const std::string_view typeAndData = bytes.substr(4, length + 4);
+    const auto* raw = reinterpret_cast<const Bytef*>(typeAndData.data());
+    if (crc32(0, raw, static_cast<uInt>(typeAndData.size())) != bigEndian32(bytes, length + 8))
+        return std::nullopt;
+    return PngChunk{typeAndData.substr(0, 4), typeAndData.substr(4)};
+}
+
+/// From the first chunk to IEND: every length within the file, every checksum right, the header
+/// first, and between them the pixels, all of them and no more.
+std::optional<ImageFacts> inspectPng(std::string_view bytes) {
+    bytes.remove_prefix(pngSignature.size());
+    const std::optional<PngChunk> header = firstChunk(bytes);
+    if (!header || header->type != "IHDR")
+        return std::nullopt;
+    const std::optional<ImageFacts> facts = readPngHeader(header->data);
+    if (!facts)
+        return std::nullopt;
+    PngRows rows(*facts, header->data.back() != 0);
+    bytes.remove_prefix(header->data.size() + pngChunkFrame);
+    while (const std::optional<PngChunk> chunk = firstChunk(bytes)) {
+        if (chunk->type == "IEND")
+            return rows.isComplete() && chunk->data.empty() ? facts : std::nullopt;
+        if (chunk->type == "IHDR" || !isKnownOrOptional(chunk->type))
+            return std::nullopt;
+        if (chunk->type == "IDAT" && !rows.feed(chunk->data))
+            return std::nullopt;
+        bytes.remove_prefix(chunk->data.size() + pngChunkFrame);
     }
     return std::nullopt;
 }

@@ -8,9 +8,9 @@
 #include "core/Log.h"
 #include "core/Ticks.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstring>
 
 namespace bc {
 
@@ -140,11 +140,11 @@ void RendererBase::drawFPS() {
     if (fonts_) {
         std::array<char, 24> text{};
         char* end = std::to_chars(text.data(), text.data() + 12, clock_.framesPerSecond()).ptr;
-        std::memcpy(end, " FPS", 4);
+        constexpr std::string_view unit = " FPS";
+        end = std::copy(unit.begin(), unit.end(), end);
         fonts_->setFont(fontName, 14);
-        fonts_->drawShadowText(
-            static_cast<float>(width_ - 128), 35,
-            std::string_view(text.data(), static_cast<std::size_t>(end + 4 - text.data())));
+        const std::string_view line(text.data(), static_cast<std::size_t>(end - text.data()));
+        fonts_->drawShadowText(static_cast<float>(width_ - 128), 35, line);
     }
     end2D();
 }

@@ -187,14 +187,16 @@ TEST_F(ImageFontRendererTest, ALaterFontOfTheSameNameAndSizeWins) {
 }
 
 TEST_F(ImageFontRendererTest, SurvivesDamagedFiles) {
-    const char* const damaged[] = {
+    const std::string huge =
+        "<f><descriptors><c x='-2147483648' y='-2147483648' width='2147483647' "
+        "height='2147483647' top='2147483647' xadvance='1e38'/></descriptors></f>";
+    const std::string damaged[] = {
         "<f/>",
         "<f><descriptors/><imageindex/></f>",
         "<f><imageindex><i/></imageindex><descriptors><c/><c image='../../x'/></descriptors></f>",
-        "<f><descriptors><c x='-2147483648' y='-2147483648' width='2147483647' "
-        "height='2147483647' top='2147483647' xadvance='1e38'/></descriptors></f>",
+        huge,
     };
-    for (const char* text : damaged) {
+    for (const std::string& text : damaged) {
         font("verabd_14.xml", text);
         ASSERT_TRUE(init()) << text;
         draw(0, 0, std::string_view("\0\1abc", 5));

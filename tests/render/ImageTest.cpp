@@ -72,6 +72,32 @@ TEST_F(ImageTest, ReadsRunLengthPackets) {
     EXPECT_EQ(image->pixels[14], 1);
 }
 
+TEST_F(ImageTest, ReadsPngsHoweverTheyAreCut) {
+    // Seven passes; an 8 x 8 image of one colour, whose pixels pack into next to nothing.
+    std::string rows;
+    for (const auto& [width, height] :
+         {std::pair(1, 1), {1, 1}, {2, 1}, {2, 2}, {4, 2}, {4, 4}, {8, 4}})
+        for (int y = 0; y < height; ++y)
+            rows += '\0' + std::string(static_cast<std::size_t>(width) * 4, '\x55');
+    std::string interlaced = test::pngFile(8, 8, 8, 6, rows);
+    std::string header = test::pngHeader(8, 8, 8, 6).substr(8, 13);
+    header.back() = '\1';
+    interlaced.replace(8, 25, test::pngChunk("IHDR", header));
+    const std::optional<Image> woven = read("woven.png", interlaced);
+    ASSERT_TRUE(woven);
+    EXPECT_EQ(woven->pixels, std::vector<std::uint8_t>(256, 0x55));
+
+    // The same pixels in chunks of a byte each, with a remark before them.
+    const std::string whole = test::png(300, 200, {1, 2, 3, 4});
+    const std::string data = whole.substr(41, whole.size() - 41 - 16);
+    std::string cut = whole.substr(0, 33) + test::pngChunk("tEXt", "a remark");
+    for (const char byte : data)
+        cut += test::pngChunk("IDAT", std::string(1, byte));
+    const std::optional<Image> joined = read("cut.png", cut + test::pngChunk("IEND", ""));
+    ASSERT_TRUE(joined);
+    EXPECT_EQ(joined->pixels, read("whole.png", whole)->pixels);
+}
+
 TEST_F(ImageTest, RefusesWhatIsDamagedLyingOrNotOfTwentyFourOrThirtyTwoBits) {
     const std::string whole = test::png(16, 16, 32, pattern);
     const auto changed = [&whole](std::size_t at) {
@@ -101,6 +127,11 @@ TEST_F(ImageTest, RefusesWhatIsDamagedLyingOrNotOfTwentyFourOrThirtyTwoBits) {
         {"no pixels.png", signature + test::pngHeader(4, 4, 8, 6) + end},
         {"pixels that end early.png",
          signature + test::pngHeader(64, 64, 8, 6) + test::pngChunk("IDAT", "x") + end},
+        {"a row too few.png", test::pngFile(4, 4, 8, 6, std::string(3 * 17, '\0'))},
+        {"a row too many.png", test::pngFile(4, 4, 8, 6, std::string(5 * 17, '\0'))},
+        {"unknown filter.png", test::pngFile(4, 1, 8, 6, "\5" + std::string(16, '\0'))},
+        {"unknown critical chunk.png",
+         whole.substr(0, 33) + test::pngChunk("WHAT", "x") + whole.substr(33)},
         {"too wide.png",
          signature + test::pngHeader(8193, 1, 8, 6) + test::pngChunk("IDAT", "x") + end},
         {"too many pixels.png",

@@ -461,8 +461,9 @@ TEST_F(RendererDisplayTest, ChangingTheModeKeepsDrawingAndForgetsTextures) {
 }
 
 TEST_F(RendererDisplayTest, AModeThatCannotBeHadBecomesASmallWindow) {
-    for (const auto& [w, h] : {std::pair(100000, 100000), {0, 0}, {-5, 400}}) {
-        const std::string log = logOf([&] { EXPECT_TRUE(renderer->setVideoMode(w, h, true)); });
+    for (const auto& mode : {std::pair(100000, 100000), {0, 0}, {-5, 400}}) {
+        const std::string log =
+            logOf([&] { EXPECT_TRUE(renderer->setVideoMode(mode.first, mode.second, true)); });
         EXPECT_EQ(log,
                   "Error: Video Mode change failed\nFalling back to 640x480 : windowed\n"
                   "REND New Res: 640 , 480\n");

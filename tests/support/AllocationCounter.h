@@ -3,6 +3,7 @@
 // Replaces the allocation functions of the program: include it in one source of a test program.
 #pragma once
 
+#include <cstddef>
 #include <cstdlib>
 #include <new>
 
@@ -19,33 +20,78 @@ class AllocationCounter {
     long start_ = allocations;
 };
 
+inline void* countedAlloc(std::size_t size, std::size_t alignment = 0) noexcept {
+    ++allocations;
+    if (alignment <= alignof(std::max_align_t))
+        return std::malloc(size > 0 ? size : 1);
+    return std::aligned_alloc(alignment, (size + alignment) / alignment * alignment);
+}
+
+/// Kept apart from its callers: inlined, the compiler takes free for a mismatch to new.
+[[gnu::noinline]] inline void giveBack(void* memory) noexcept {
+    std::free(memory);
+}
+
+inline void* orThrow(void* memory) {
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    return memory;
+}
+
 }  // namespace bc::test
 
-// Replacements of the allocation functions must not be inline.
-// NOLINTBEGIN(misc-definitions-in-headers)
-[[gnu::noinline]] void* operator new(std::size_t size) {
-    ++bc::test::allocations;
-    if (void* memory = std::malloc(size > 0 ? size : 1))
-        return memory;
-    throw std::bad_alloc();
+// All forms, since libraries mix them: what one gives out another takes back.
+void* operator new(std::size_t size) {
+    return bc::test::orThrow(bc::test::countedAlloc(size));
 }
-[[gnu::noinline]] void operator delete(void* memory) noexcept {
-    std::free(memory);
+void* operator new[](std::size_t size) {
+    return bc::test::orThrow(bc::test::countedAlloc(size));
 }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return bc::test::countedAlloc(size);
 }
-[[gnu::noinline]] void* operator new(std::size_t size, std::align_val_t alignment) {
-    ++bc::test::allocations;
-    const auto unit = static_cast<std::size_t>(alignment);
-    if (void* memory = std::aligned_alloc(unit, (size + unit) / unit * unit))
-        return memory;
-    throw std::bad_alloc();
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+    return bc::test::countedAlloc(size);
 }
-[[gnu::noinline]] void operator delete(void* memory, std::align_val_t) noexcept {
-    std::free(memory);
+void* operator new(std::size_t size, std::align_val_t alignment) {
+    return bc::test::orThrow(bc::test::countedAlloc(size, static_cast<std::size_t>(alignment)));
 }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
-    std::free(memory);
+void* operator new[](std::size_t size, std::align_val_t alignment) {
+    return bc::test::orThrow(bc::test::countedAlloc(size, static_cast<std::size_t>(alignment)));
 }
-// NOLINTEND(misc-definitions-in-headers)
+void* operator new(std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
+    return bc::test::countedAlloc(size, static_cast<std::size_t>(alignment));
+}
+void* operator new[](std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
+    return bc::test::countedAlloc(size, static_cast<std::size_t>(alignment));
+}
+void operator delete(void* memory) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete[](void* memory) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete(void* memory, const std::nothrow_t&) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete[](void* memory, const std::nothrow_t&) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete(void* memory, std::align_val_t) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete[](void* memory, std::align_val_t) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
+    bc::test::giveBack(memory);
+}
+void operator delete[](void* memory, std::size_t, std::align_val_t) noexcept {
+    bc::test::giveBack(memory);
+}

@@ -88,8 +88,8 @@ class DisplayFixture : public TestFolders {
     /// The same at a place of the world, with the camera at the usual distance over x, y.
     [[nodiscard]] Seen atWorld(float x, float y, const Vector& camera) const {
         const float pixelsAUnit = static_cast<float>(height) / 512;
-        return at(static_cast<int>(width / 2 + (x - camera.x) * pixelsAUnit),
-                  static_cast<int>(height / 2 + (y - camera.y) * pixelsAUnit));
+        return at(static_cast<int>(width * 0.5F + (x - camera.x) * pixelsAUnit),
+                  static_cast<int>(height * 0.5F + (y - camera.y) * pixelsAUnit));
     }
     [[nodiscard]] const std::optional<Image>& frame() const { return frame_; }
 

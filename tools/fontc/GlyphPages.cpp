@@ -55,11 +55,12 @@ void writePage(const std::string& path, const std::vector<Glyph>& glyphs, int pa
     for (const Glyph& glyph : glyphs) {
         if (glyph.page != page)
             continue;
-        for (int y = 0; y < glyph.height; ++y)
-            for (int x = 0; x < glyph.width; ++x) {
-                const std::size_t at = static_cast<std::size_t>(glyph.row + y) * side +
-                                       static_cast<std::size_t>(glyph.column + x);
-                pixels[at * 4 + 3] = glyph.coverage[static_cast<std::size_t>(y * glyph.width + x)];
+        std::size_t from = 0;
+        for (int y = glyph.row; y < glyph.row + glyph.height; ++y)
+            for (int x = glyph.column; x < glyph.column + glyph.width; ++x) {
+                const std::size_t at =
+                    static_cast<std::size_t>(y) * side + static_cast<std::size_t>(x);
+                pixels[at * 4 + 3] = glyph.coverage[from++];
             }
     }
     png_image image;

@@ -44,7 +44,8 @@ Glyph glyphOf(FT_Face face, int code) {
     glyph.top = slot->bitmap_top;
     glyph.width = glyph.left + static_cast<int>(bitmap.width);
     glyph.height = static_cast<int>(bitmap.rows);
-    glyph.coverage.assign(static_cast<std::size_t>(glyph.width * glyph.height), 0);
+    glyph.coverage.assign(
+        static_cast<std::size_t>(glyph.width) * static_cast<std::size_t>(glyph.height), 0);
     for (int y = 0; y < glyph.height; ++y) {
         const unsigned char* from = bitmap.buffer + static_cast<std::ptrdiff_t>(y) * bitmap.pitch;
         std::copy_n(from, bitmap.width, glyph.coverage.begin() + (y * glyph.width + glyph.left));
@@ -69,6 +70,7 @@ std::vector<Glyph> rasterise(const std::string& outlines, int size) {
     if (FT_Set_Pixel_Sizes(face.get(), 0, static_cast<FT_UInt>(size)) != 0)
         throw std::runtime_error(outlines + " has no size " + std::to_string(size));
     std::vector<Glyph> glyphs;
+    glyphs.reserve(codes);
     for (int code = 0; code < codes; ++code)
         glyphs.push_back(glyphOf(face.get(), code));
     return glyphs;
