@@ -50,18 +50,6 @@ TEST(Hud, ScalesToTheWindowAndTruncates) {
     }
 }
 
-TEST(Hud, PlacingMovesOnlyThePixelsUntilTheNextResize) {
-    OneImage one(10, 20, 16, 16);
-    one.hud.resize(1280, 960);
-    one.hud.placeItem(*one.item, 100, 200);
-    EXPECT_EQ(one.item->pixels().x, 200);
-    EXPECT_EQ(one.item->pixels().y, 400);
-    EXPECT_EQ(one.item->pixels().width, 32);
-    EXPECT_EQ(one.item->design().x, 10);
-    one.hud.resize(640, 480);
-    EXPECT_EQ(one.item->pixels().x, 10);
-}
-
 TEST(Hud, DrawsVisibleItemsInTheirOrderInOverlayMode) {
     test::RecordingRenderer renderer;
     OneImage one(0, 0, 1, 1);

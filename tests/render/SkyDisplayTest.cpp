@@ -67,20 +67,5 @@ TEST_F(SkyDisplayTest, StandsBehindWhateverIsDrawnNext) {
     EXPECT_TRUE(isColour(at(width / 2, height / 2), 255, 0, 0));
 }
 
-TEST_F(SkyDisplayTest, FadesInFromBlackAfterASwitch) {
-    makeSky("", "");
-    put(data() + "/data/sky/black.xml", "<sky/>");
-    skies.loadSkyByName("black");
-    skies.switchSkyByName("black");
-    skies.switchSkyByName("s");
-    const int reds[] = {10, 20, 30, 40};
-    for (const int red : reds) {
-        drawAt(0, 0, 256, 0.25F);
-        look();
-        renderer->endFrame();
-        EXPECT_NEAR(at(5, 5).r, red, 2);
-    }
-}
-
 }  // namespace
 }  // namespace bc

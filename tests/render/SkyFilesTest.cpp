@@ -106,18 +106,5 @@ TEST_F(SkyFilesTest, EverySkyIsWholeAndCoversTheWindow) {
     EXPECT_GE(flares, 1);
 }
 
-// What brightens and dims as a whole must not do so more than three times a second.
-TEST_F(SkyFilesTest, NothingFlashesFasterThanThreeTimesASecond) {
-    for (const std::string& name : shippedSkies()) {
-        BaseSky sky;
-        ASSERT_TRUE(sky.load(name));
-        for (const SkyQuad& quad : sky.quads()) {
-            const float range = quad.maxColour.a - quad.minColour.a;
-            for (const RGBAColour& rate : quad.colours())
-                EXPECT_LE(std::abs(rate.a), range * 6 + 1) << name << ' ' << quad.textureName;
-        }
-    }
-}
-
 }  // namespace
 }  // namespace bc
