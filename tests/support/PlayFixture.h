@@ -117,12 +117,9 @@ class PlayFixture : public TestFolders {
             vars().createOrSet(name, value, "");
         commands().setOutput(&console);
         particleManager().makeDefaultDefinition();
-        for (const char* name : effectNames) {
-            ParticleSystemParams definition;
-            definition.id = name;
-            definition.maxParticles = 4;
-            particleManager().addDefinition(definition);
-        }
+        put(data() + "/particles.xml",
+            get(BRIGHTCLASH_SOURCE_DIR "/assets/data/particles/particles.xml"));
+        logOf([] { particleManager().loadDefinitions("particles.xml"); });
         gameplay = std::make_unique<DefaultGameplay>(enemyTypes);
         auto bundle = std::make_unique<GameResourceBundle>();
         bundle->game = &game;
@@ -244,13 +241,6 @@ class PlayFixture : public TestFolders {
     float gravity = 0;
 
   private:
-    static constexpr const char* effectNames[] = {
-        "quadeffect", "invincibleeffect", "boostflame",     "debugtrail", "rocketflame",
-        "swarmburst", "rocketflameenemy", "explosionshock", "tracer",     "bullethit",
-        "spark",      "itemrespawn2",     "plasma",         "rail",       "lightning",
-        "bloodtrail", "explosionfire",    "explosionspark", "debugblood", "debugbloodexplosion",
-        "deathghost", "plasmatrail",      "teststream"};
-
     std::unique_ptr<Body> playerBody_;
 };
 
