@@ -40,6 +40,7 @@ inline void* orThrow(void* memory) {
 
 }  // namespace bc::test
 
+// NOLINTBEGIN(misc-definitions-in-headers): the one source that includes this defines them.
 // All forms, since libraries mix them: what one gives out another takes back.
 void* operator new(std::size_t size) {
     return bc::test::orThrow(bc::test::countedAlloc(size));
@@ -95,3 +96,4 @@ void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
 void operator delete[](void* memory, std::size_t, std::align_val_t) noexcept {
     bc::test::giveBack(memory);
 }
+// NOLINTEND(misc-definitions-in-headers)
