@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 #include "core/Drawable.h"
+#include "render/HeadlessRenderer.h"
 #include "render/ImageFontRenderer.h"
 #include "support/AllocationCounter.h"
 #include "support/DisplayFixture.h"
@@ -105,6 +106,40 @@ TEST_F(TextDisplayTest, BodiesCarryLabelsWhenAsked) {
     renderer->drawBody(body);
     EXPECT_NE(text.str().find("\"generic : default : Unmovable\""), std::string::npos);
     renderer->endFrame();
+}
+
+TEST_F(TextDisplayTest, AFrameDumpIsTheSameWithAndWithoutAWindow) {
+    ASSERT_TRUE(fontsReady);
+    makeImage("a.png", 8, {255, 255, 255, 255});
+    const auto dump = [](IRenderer& target) {
+        auto stream = std::make_unique<std::ostringstream>();
+        const std::ostringstream& text = *stream;
+        target.dumpNextFrame(std::move(stream));
+        Drawable body;
+        body.textured = true;
+        body.texture = "a.png";
+        target.beginFrame();
+        target.setCamera(1.5F, -2, -256);
+        target.drawBody(body);
+        target.begin2D();
+        target.bindTextureId(target.getTextureId("a.png"));
+        target.drawQuad(1, 2, 0, 3, 4);
+        target.getFontRenderer()->drawShadowText(10, 20, "words");
+        target.end2D();
+        std::string lines = text.str();
+        target.endFrame();
+        return lines;
+    };
+    HeadlessRenderer headless;
+    logOf([&] {
+        headless.init();
+        headless.setFontRenderer(std::make_unique<ImageFontRenderer>());
+        headless.getFontRenderer()->setRenderer(&headless);
+        headless.getFontRenderer()->init();
+    });
+    const std::string withWindow = dump(*renderer);
+    EXPECT_EQ(withWindow, dump(headless));
+    EXPECT_NE(withWindow.find("\ntext 10 20 0 vera 14 \"words\"\n"), std::string::npos);
 }
 
 TEST_F(TextDisplayTest, AWarmFrameAllocatesNothing) {
