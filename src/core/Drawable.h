@@ -67,14 +67,10 @@ class Drawable {
     /// With a glow texture: how many additive passes of it lie over the body, each fainter.
     int glowSteps = 0;
 
-    // From here on what every simulation step reads stands last, beside what it reads of Body.
     /// World units. Between two simulation steps it lies between the old and the new position.
     Vector renderpos;
-    /// Radians, clockwise as seen by the player (world.x = x cos + y sin).
-    float angle = 0;
     /// Depth: lower is drawn first, and farther away.
     float zShift = 0;
-    float mass = 100;
 
     bool visible = true;
     bool outlined = true;
@@ -83,6 +79,12 @@ class Drawable {
     bool clampTexture = false;
     /// Drawn in the bloom pass as well.
     bool hasGlow = false;
+
+    // These two stand last, and begin a cache line that Body goes on with: what every simulation
+    // step reads lies together.
+    alignas(64) float mass = 100;
+    /// Radians, clockwise as seen by the player (world.x = x cos + y sin).
+    float angle = 0;
 };
 
 }  // namespace bc

@@ -15,7 +15,7 @@ struct Box {
 };
 
 /// A body's box for the spatial index, in world units. minX..maxY are what is compared: the box of
-/// the polygon at its projected position, stretched back over the way it takes there.
+/// the polygon at the body's projectedpos, stretched back over the way it takes there.
 /// Filled by Body::computeBounds and Body::updateSweptBounds only, which also tell the index.
 struct BRect {
     float minX = 0;
@@ -32,7 +32,17 @@ struct BRect {
     float sweptRight = 0;
     float sweptTop = 0;
     float sweptBottom = 0;
-    Vector centre;
+};
+
+/// A place in the plane of play.
+struct PlanarPoint {
+    float x = 0;
+    float y = 0;
+
+    constexpr PlanarPoint() = default;
+    constexpr PlanarPoint(float px, float py) : x(px), y(py) {}
+    constexpr PlanarPoint(const Vector& v) : x(v.x), y(v.y) {}
+    constexpr operator Vector() const { return {x, y}; }
 };
 
 }  // namespace bc

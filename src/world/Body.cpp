@@ -4,9 +4,9 @@
 
 #include "particles/ParticleSystem.h"
 #include "world/BodyParticleSystemObserver.h"
+#include "world/BodyStep.h"
 #include "world/CollisionShape.h"
 #include "world/QuadTree.h"
-#include "world/Simd.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,8 +20,8 @@ Body::Body() : shape_(CollisionShape::of({})) {
 
 Body::~Body() {
     detachAllParticleSystems();
-    if (node_ != nullptr)
-        QuadTree::removeFromItsTree(*this);
+    if (tree_ != nullptr)
+        tree_->remove(*this);
 }
 
 std::unique_ptr<Body> Body::create() const {
@@ -31,72 +31,45 @@ std::unique_ptr<Body> Body::create() const {
 void Body::setPosition(const Vector& v) {
     if (!simd::within(simd::load(v), maxCoordinate))
         return;
-    pos = renderpos = oldpos = projectedpos = v;
+    pos = renderpos = oldpos = v;
+    projectedpos = v;
 }
 
 void Body::limitSpeed() {
-    const float squared = vel.x * vel.x + vel.y * vel.y + vel.z * vel.z + vel.w * vel.w;
-    if (squared <= maxSpeed * maxSpeed)
-        return;
-    if (!(squared <= std::numeric_limits<float>::max())) {
+    float speed = vel.length();
+    if (!(speed <= std::numeric_limits<float>::max())) {
         // The square overflows: bring it into range first; what is no number at all is dropped.
         if (!simd::within(simd::load(vel), std::numeric_limits<float>::max())) {
             vel = Vector();
             return;
         }
         vel *= 1e-30F;
-    } else if (!(std::sqrt(squared) > maxSpeed)) {
-        return;
+        speed = maxSpeed + 1;
     }
+    if (speed <= maxSpeed)
+        return;
     vel.normalise();
     vel *= maxSpeed;
 }
 
-void Body::gainVelocity(const Vector& v) {
-    vel += v;
-    limitSpeed();
-}
-
 void Body::applyForce(const Vector& force, float scale) {
-    if (isMassive())
-        gainVelocity(force * (invMass * scale));
+    BodyStep::applyForce(*this, force, scale);
 }
 
 void Body::addVelocity(const Vector& v) {
     if (isMassive())
-        gainVelocity(v);
+        BodyStep::gainVelocity(*this, v);
 }
 
-bool Body::advance(float dt) {
-    if (!isMassive() && !nonmassmover) {
-        vel = Vector();
-        return false;
-    }
-    oldpos = pos;
-    const __m128 step = _mm_set1_ps(dt);
-    const __m128 drag = _mm_set1_ps(inliquid ? liquidfriction : 1.0F);
-    __m128 place = simd::load(pos);
-    place = _mm_add_ps(place, _mm_mul_ps(_mm_mul_ps(simd::load(frozenvel), step), drag));
-    place = _mm_add_ps(place, _mm_mul_ps(_mm_mul_ps(simd::load(constantvelocity), step), drag));
-    if (simd::within(place, maxCoordinate)) {
-        simd::store(pos, place);
-    } else {
-        // It has left every level there could be: it stays where it is.
-        vel = frozenvel = constantvelocity = Vector();
-        if (!simd::within(simd::load(pos), maxCoordinate))
-            pos = oldpos = Vector();
-    }
-    inliquidlastframe = inliquid;
-    inliquid = false;
-    sweepBounds(dt);
-    if (!particleSystems_.empty())
-        updateParticleSystems();
-    return true;
+void Body::stop() {
+    vel = frozenvel = constantvelocity = Vector();
+    if (!simd::within(simd::load(pos), maxCoordinate))
+        pos = oldpos = Vector();
 }
 
 void Body::move(float dt) {
-    if (advance(dt) && node_ != nullptr)
-        QuadTree::boundsChanged(*this);
+    if (BodyStep::move(*this, dt) && tree_ != nullptr)
+        tree_->boundsChanged(*this);
 }
 
 void Body::touch(Body& other, Body& self, const Vector& normal, float t, const Vector& point) {
@@ -125,6 +98,7 @@ void Body::attachParticleSystem(ParticleSystem& system) {
     if (!observer_)
         observer_ = std::make_unique<BodyParticleSystemObserver>(*this);
     particleSystems_.push_back(&system);
+    noteParticles();
     system.addObserver(observer_.get());
 }
 
@@ -132,6 +106,12 @@ void Body::forgetParticleSystem(ParticleSystem& system) {
     const auto it = std::find(particleSystems_.begin(), particleSystems_.end(), &system);
     if (it != particleSystems_.end())
         particleSystems_.erase(it);
+    noteParticles();
+}
+
+void Body::noteParticles() {
+    stepFlags_ = static_cast<std::uint8_t>(
+        particleSystems_.empty() ? stepFlags_ & ~carriesParticles : stepFlags_ | carriesParticles);
 }
 
 void Body::detachParticleSystem(ParticleSystem& system) {
@@ -148,6 +128,7 @@ void Body::detachAllParticleSystems() {
         system->removeObserver(observer_.get());
     }
     particleSystems_.clear();
+    noteParticles();
 }
 
 void Body::updateParticleSystems() {

@@ -20,7 +20,7 @@ class BodyParticleSystemObserver;
 class CollisionShape;
 class ParticleSystem;
 class QuadTree;
-struct QuadTreeNode;
+struct BodyStep;
 
 /// Everything that is in a level derives from it: geometry, doors, pickups, enemies, projectiles,
 /// the player. Owned by the World it was added to (the player by the application).
@@ -67,8 +67,11 @@ class alignas(64) Body : public Drawable {
     [[nodiscard]] const std::vector<Vector>& worldVertices() const;
     /// The box around worldVertices, exactly; of nothing for a body without corners.
     [[nodiscard]] Box worldBox() const {
-        return {boxMinX_ + geometryX_, boxMaxX_ + geometryX_, boxMinY_ + geometryY_,
-                boxMaxY_ + geometryY_};
+        if ((stepFlags_ & irregular) == 0)
+            return {geometry_.x - bounds.left, geometry_.x + bounds.right, geometry_.y - bounds.top,
+                    geometry_.y + bounds.bottom};
+        return {geometry_.x + geometryBox_.minX, geometry_.x + geometryBox_.maxX,
+                geometry_.y + geometryBox_.minY, geometry_.y + geometryBox_.maxY};
     }
     /// Signed; positive for corners that run anticlockwise on screen (y up).
     [[nodiscard]] float polygonArea() const;
@@ -86,7 +89,7 @@ class alignas(64) Body : public Drawable {
 
     // Motion.
     [[nodiscard]] bool isMassive() const { return mass >= minMass; }
-    /// pos, renderpos, oldpos and projectedpos. A place that is not finite is ignored.
+    /// Sets pos, renderpos, oldpos and projectedpos. A place that is not finite is ignored.
     void setPosition(const Vector& v);
     /// vel += force * invMass * scale, then the speed limit; static bodies ignore it.
     void applyForce(const Vector& force, float scale);
@@ -144,6 +147,9 @@ class alignas(64) Body : public Drawable {
         return particleSystems_;
     }
 
+    /// Number of its entry in the spatial index it is in.
+    [[nodiscard]] std::uint32_t indexEntry() const { return entry_; }
+
     // Text forms.
     void setTexture(const std::string& name);
     /// One line for the log.
@@ -156,23 +162,17 @@ class alignas(64) Body : public Drawable {
     virtual void dumpState(TiXmlElement& debug) const;
 
   private:
+    friend struct BodyStep;
     friend class QuadTree;
     friend class World;
 
-    // Where it is in the spatial index; null when it is not.
-    QuadTreeNode* node_ = nullptr;
-    std::uint32_t slot_ = 0;
-    float geometryAngle_ = 0;
-
   public:
-    // The order of the fields from here is that of the simulation: what a phase of the step uses
-    // lies together.
-    alignas(64) Vector pos;
-    Vector vel;
-    /// vel as it was at the start of the step; moves use it.
-    Vector frozenvel;
+    // The order of the next fields is that of the simulation: what a pass of the step uses lies
+    // together in as few cache lines as possible.
     float invMass = 0.01F;
     float gravitymultiplier = 1;
+    Vector pos;
+    Vector vel;
     /// Stands on something: set by the collision phase, cleared at the start of the next one.
     bool contact = false;
     /// False: moves and collides only within 800 units of the player.
@@ -180,50 +180,74 @@ class alignas(64) Body : public Drawable {
     /// The world deletes the body in its next move phase.
     bool cancleanup = false;
     bool solid = true;
-    /// Moves although it is static (lifts, doors).
-    bool nonmassmover = false;
     bool inliquid = false;
     bool inliquidlastframe = false;
-    /// A dynamic object: numbered by the loader and kept in saves.
-    bool entity = false;
 
-    BRect bounds;
+  private:
+    std::uint8_t stepFlags_ = 0;
+    /// Its entry in the spatial index it is in.
+    std::uint32_t entry_ = 0;
+
+  public:
+    /// radius and the way of the step.
+    float sweptRadius = 0;
 
     /// pos before the last move.
-    Vector oldpos;
+    alignas(64) Vector oldpos;
+    /// vel as it was at the start of the step; moves use it.
+    Vector frozenvel;
     /// Added to every move whatever the forces.
     Vector constantvelocity;
     /// pos + vel * dt of the last bounds update.
-    Vector projectedpos;
-    /// Largest distance of a corner from pos seen so far.
-    float radius = 0;
-    /// radius and the way of the step.
-    float sweptRadius = 0;
-    /// Factor on the motion while in a liquid.
-    float liquidfriction = 0;
-    /// Sliding friction coefficient.
-    float friction = 0.01F;
+    PlanarPoint projectedpos;
 
   private:
-    // Box of the turned polygon around the place where updateGeometry last put it.
-    float boxMinX_ = 0;
-    float boxMaxX_ = 0;
-    float boxMinY_ = 0;
-    float boxMaxY_ = 0;
-    float geometryX_ = 0;
-    float geometryY_ = 0;
-    std::vector<ParticleSystem*> particleSystems_;
-    mutable bool worldVerticesStale_ = false;
+    /// Where updateGeometry last put the polygon.
+    PlanarPoint geometry_;
+
+  public:
+    alignas(64) BRect bounds;
+
+    /// Largest distance of a corner from pos seen so far.
+    float radius = 0;
+
+  private:
+    /// The spatial index it is in, if any.
+    QuadTree* tree_ = nullptr;
+
+    alignas(64) std::shared_ptr<const CollisionShape> shape_;
+
+  public:
+    /// Sliding friction coefficient.
+    float friction = 0.01F;
+    /// Restitution.
+    float bounce = 0.05F;
+    /// Below this tangential speed friction stops sliding altogether.
+    float staticFrictionSpeed = 0.1F;
+    /// Factor on the motion while in a liquid.
+    float liquidfriction = 0;
+    /// Moves although it is static (lifts, doors).
+    bool nonmassmover = false;
+    /// A dynamic object: numbered by the loader and kept in saves.
+    bool entity = false;
+
+  private:
     bool gone_ = false;
+    /// The angle by which updateGeometry last turned the polygon, and the box around it there.
+    float geometryAngle_ = 0;
+    Box geometryBox_{};
+    std::uint32_t ownedAt_ = 0;
+    std::vector<ParticleSystem*> particleSystems_;
+
+    // Where worldVertices_ belong.
+    mutable PlanarPoint cornersAt_;
+    mutable float cornersAngle_ = 0;
+    mutable bool cornersStale_ = false;
 
   public:
     /// In view as of the last gathering of the visible bodies.
     bool inView = false;
     bool placed = false;
-    /// Restitution.
-    float bounce = 0.05F;
-    /// Below this tangential speed friction stops sliding altogether.
-    float staticFrictionSpeed = 0.1F;
 
     std::int32_t autoid = 0;
     /// Kind number that collision filters and triggers ask for (1 is the player).
@@ -255,18 +279,19 @@ class alignas(64) Body : public Drawable {
   private:
     friend class BodyParticleSystemObserver;
 
+    // Bits of stepFlags_.
+    static constexpr std::uint8_t carriesParticles = 1;
+    /// The polygon is turned, or its box is not that of the extents in bounds.
+    static constexpr std::uint8_t irregular = 2;
+
     void limitSpeed();
-    void gainVelocity(const Vector& v);
-    /// move without telling the index; false when it did not move.
-    bool advance(float dt);
-    /// updateGeometry for an unchanged polygon, without telling the index.
-    void followGeometry();
+    /// It has left every level there could be: it stays where it is.
+    void stop();
     void turnBox();
-    void sweepBounds(float dt);
+    void compareBox();
+    void noteParticles();
     void forgetParticleSystem(ParticleSystem& system);
 
-    std::uint32_t ownedAt_ = 0;
-    std::shared_ptr<const CollisionShape> shape_;
     mutable std::vector<Vector> worldVertices_;
     std::unique_ptr<BodyParticleSystemObserver> observer_;
 };

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 // A body's polygon, the places of its corners and its bounds.
 #include "world/Body.h"
+#include "world/BodyStep.h"
 #include "world/CollisionShape.h"
 #include "world/QuadTree.h"
-#include "world/Simd.h"
 
 #include <algorithm>
 #include <cmath>
@@ -82,45 +82,47 @@ void Body::makeLocalVertices() {
 
 void Body::turnBox() {
     const Turn turn(angle);
-    constexpr float none = std::numeric_limits<float>::infinity();
-    boxMinX_ = boxMinY_ = none;
-    boxMaxX_ = boxMaxY_ = -none;
-    for (const Vector& corner : localVertices) {
-        boxMinX_ = std::min(boxMinX_, turn.x(corner));
-        boxMaxX_ = std::max(boxMaxX_, turn.x(corner));
-        boxMinY_ = std::min(boxMinY_, turn.y(corner));
-        boxMaxY_ = std::max(boxMaxY_, turn.y(corner));
-    }
     geometryAngle_ = angle;
+    constexpr float none = std::numeric_limits<float>::infinity();
+    geometryBox_ = {none, -none, none, -none};
+    for (const Vector& corner : localVertices) {
+        geometryBox_.minX = std::min(geometryBox_.minX, turn.x(corner));
+        geometryBox_.maxX = std::max(geometryBox_.maxX, turn.x(corner));
+        geometryBox_.minY = std::min(geometryBox_.minY, turn.y(corner));
+        geometryBox_.maxY = std::max(geometryBox_.maxY, turn.y(corner));
+    }
+    compareBox();
 }
 
-void Body::followGeometry() {
-    if (angle != geometryAngle_)
-        turnBox();
-    geometryX_ = pos.x;
-    geometryY_ = pos.y;
-    worldVerticesStale_ = true;
+void Body::compareBox() {
+    const bool regular = geometryAngle_ == 0 && bounds.left == -geometryBox_.minX &&
+                         bounds.right == geometryBox_.maxX && bounds.top == -geometryBox_.minY &&
+                         bounds.bottom == geometryBox_.maxY;
+    stepFlags_ =
+        static_cast<std::uint8_t>(regular ? stepFlags_ & ~irregular : stepFlags_ | irregular);
 }
 
 void Body::updateGeometry() {
     if (!shape_->isOf(localVertices))
         shape_ = CollisionShape::of(localVertices);
     turnBox();
-    geometryX_ = pos.x;
-    geometryY_ = pos.y;
-    worldVerticesStale_ = true;
-    if (node_ != nullptr)
-        QuadTree::geometryChanged(*this);
+    geometry_ = pos;
+    cornersStale_ = true;
+    if (tree_ != nullptr)
+        tree_->geometryChanged(*this);
 }
 
 const std::vector<Vector>& Body::worldVertices() const {
-    if (worldVerticesStale_) {
-        worldVerticesStale_ = false;
+    if (cornersStale_ || cornersAt_.x != geometry_.x || cornersAt_.y != geometry_.y ||
+        cornersAngle_ != geometryAngle_) {
+        cornersStale_ = false;
+        cornersAt_ = geometry_;
+        cornersAngle_ = geometryAngle_;
         const Turn turn(geometryAngle_);
         worldVertices_.resize(localVertices.size());
         for (std::size_t i = 0; i < worldVertices_.size(); ++i) {
-            worldVertices_[i].x = turn.x(localVertices[i]) + geometryX_;
-            worldVertices_[i].y = turn.y(localVertices[i]) + geometryY_;
+            worldVertices_[i].x = turn.x(localVertices[i]) + geometry_.x;
+            worldVertices_[i].y = turn.y(localVertices[i]) + geometry_.y;
         }
     }
     return worldVertices_;
@@ -162,62 +164,43 @@ Vector Body::centroid() const {
 
 void Body::computeBounds() {
     const std::vector<Vector>& corners = worldVertices();
-    const Vector first = corners.empty() ? pos : corners.front();
-    float minX = first.x;
-    float maxX = first.x;
-    float minY = first.y;
-    float maxY = first.y;
-    for (const Vector& corner : corners) {
-        minX = std::min(minX, corner.x);
-        maxX = std::max(maxX, corner.x);
-        minY = std::min(minY, corner.y);
-        maxY = std::max(maxY, corner.y);
+    for (const Vector& corner : corners)
         radius = std::max(radius, planarDistance(pos, corner));
+    const bool inPlace = geometry_.x == pos.x && geometry_.y == pos.y;
+    if (corners.empty()) {
+        bounds.left = bounds.right = bounds.top = bounds.bottom = 0;
+    } else if (inPlace && corners.size() == localVertices.size()) {
+        // The same without the rounding of far away places.
+        bounds.left = -geometryBox_.minX;
+        bounds.right = geometryBox_.maxX;
+        bounds.top = -geometryBox_.minY;
+        bounds.bottom = geometryBox_.maxY;
+    } else {
+        const auto [minX, maxX] =
+            std::minmax_element(corners.begin(), corners.end(),
+                                [](const Vector& a, const Vector& b) { return a.x < b.x; });
+        const auto [minY, maxY] =
+            std::minmax_element(corners.begin(), corners.end(),
+                                [](const Vector& a, const Vector& b) { return a.y < b.y; });
+        bounds.left = pos.x - minX->x;
+        bounds.right = maxX->x - pos.x;
+        bounds.top = pos.y - minY->y;
+        bounds.bottom = maxY->y - pos.y;
     }
-    bounds.left = bounds.sweptLeft = pos.x - minX;
-    bounds.right = bounds.sweptRight = maxX - pos.x;
-    bounds.top = bounds.sweptTop = pos.y - minY;
-    bounds.bottom = bounds.sweptBottom = maxY - pos.y;
+    bounds.sweptLeft = bounds.left;
+    bounds.sweptRight = bounds.right;
+    bounds.sweptTop = bounds.top;
+    bounds.sweptBottom = bounds.bottom;
+    compareBox();
     updateSweptBounds(0);
+    if (tree_ != nullptr)
+        tree_->geometryChanged(*this);
 }
 
 void Body::updateSweptBounds(float dt) {
-    sweepBounds(dt);
-    if (node_ != nullptr)
-        QuadTree::boundsChanged(*this);
-}
-
-void Body::sweepBounds(float dt) {
-    // Lanes: left, right, top, bottom of the box; the low sides carry a minus in the sums below.
-    const __m128 lowSides = _mm_castsi128_ps(_mm_set_epi32(0, INT32_MIN, 0, INT32_MIN));
-    const __m128 place = simd::load(pos);
-    const __m128 motion = simd::load(vel);
-    const __m128 projected = _mm_add_ps(place, _mm_mul_ps(motion, _mm_set1_ps(dt)));
-    simd::store(projectedpos, projected);
-    const __m128 extents = _mm_loadu_ps(&bounds.left);
-    __m128 swept = extents;
-    __m128 centre = place;
-    if (_mm_movemask_ps(_mm_cmpeq_ps(motion, _mm_setzero_ps())) == 15) {
-        sweptRadius = radius;
-    } else {
-        const __m128 d = _mm_sub_ps(place, projected);
-        const float way = Vector(pos - projectedpos).length();
-        sweptRadius = radius <= way ? way + 2 * radius : way + radius;
-        // The side the body comes from grows by its way; the other keeps what it had.
-        const __m128 dd = _mm_shuffle_ps(d, d, _MM_SHUFFLE(1, 1, 0, 0));
-        const __m128 forward = _mm_cmple_ps(dd, _mm_setzero_ps());
-        const __m128 allSet = _mm_castsi128_ps(_mm_set1_epi32(-1));
-        const __m128 lowMask = _mm_castsi128_ps(_mm_set_epi32(0, -1, 0, -1));
-        // Low sides grow when d <= 0, high sides when d > 0.
-        const __m128 grows = _mm_xor_ps(_mm_xor_ps(forward, lowMask), allSet);
-        const __m128 grown = _mm_add_ps(extents, _mm_xor_ps(dd, lowSides));
-        swept = simd::select(grows, grown, _mm_loadu_ps(&bounds.sweptLeft));
-        centre = projected;
-    }
-    _mm_storeu_ps(&bounds.sweptLeft, swept);
-    simd::store(bounds.centre, centre);
-    const __m128 middle = _mm_shuffle_ps(centre, centre, _MM_SHUFFLE(1, 1, 0, 0));
-    _mm_storeu_ps(&bounds.minX, _mm_add_ps(middle, _mm_xor_ps(swept, lowSides)));
+    BodyStep::sweepBounds(*this, dt);
+    if (tree_ != nullptr)
+        tree_->boundsChanged(*this);
 }
 
 bool Body::overlaps(const Body& other) const {

@@ -57,35 +57,29 @@ Interval project(const CollisionShape& shape, float axisX, float axisY) {
 /// The test of a pair axis by axis; keeps the axis of the largest value.
 class AxisSearch {
   public:
-    AxisSearch(float offsetX, float offsetY, float motionX, float motionY)
-        : offsetX_(offsetX), offsetY_(offsetY), motionX_(motionX), motionY_(motionY) {}
+    AxisSearch(const Vector& offset, const Vector& motion)
+        : offsetX_(offset.x), offsetY_(offset.y), motionX_(motion.x), motionY_(motion.y) {}
 
     /// False when the axis keeps the polygons apart for the whole step. length is that of the axis.
     bool passes(float x, float y, float length, const Interval& a, const Interval& b) {
         const float h = offsetX_ * x + offsetY_ * y;
-        const float gapBefore = a.min + h - b.max;
-        const float gapBehind = b.min - (a.max + h);
+        const float before = a.min + h - b.max;
+        const float behind = b.min - (a.max + h);
+        const float gap = before > behind ? before : behind;
         float value = 0;
-        if (gapBefore > 0 || gapBehind > 0) {
-            const float closing = motionX_ * x + motionY_ * y;
-            if (std::fabs(closing) < minClosing)
+        if (gap > 0) {
+            const float motion = motionX_ * x + motionY_ * y;
+            const float closing = before > behind ? -motion : motion;
+            if (!(closing >= minClosing))
                 return false;
-            const float ta = -gapBefore / closing;
-            const float tb = gapBehind / closing;
-            const float first = ta < tb ? ta : tb;
-            value = first > 0 ? first : (ta < tb ? tb : ta);
-            if (value < 0 || value > 1)
+            value = gap / closing;
+            if (value > 1)
                 return false;
         } else {
-            value = (gapBefore > gapBehind ? gapBefore : gapBehind) / length;
+            value = gap / length;
         }
-        if (!found_ || value > value_) {
-            found_ = true;
-            value_ = value;
-            x_ = x;
-            y_ = y;
-            length_ = length;
-        }
+        if (value > value_)
+            keep(value, x, y, length);
         return true;
     }
 
@@ -97,31 +91,27 @@ class AxisSearch {
         const Interval ia = project(a, x, y);
         const Interval ib = project(b, x, y);
         const float h = offsetX_ * x + offsetY_ * y;
-        const float gapBefore = ia.min + h - ib.max;
-        const float gapBehind = ib.min - (ia.max + h);
-        if (gapBefore > 0 || gapBehind > 0)
+        const float before = ia.min + h - ib.max;
+        const float behind = ib.min - (ia.max + h);
+        const float gap = before > behind ? before : behind;
+        if (gap > 0)
             return false;
-        if (found_ && value_ > 0)
+        if (value_ > 0)
             return true;
         const float length = std::sqrt(x * x + y * y);
-        const float value = (gapBefore > gapBehind ? gapBefore : gapBehind) / length;
-        if (!found_ || value >= value_) {
-            found_ = true;
-            value_ = value;
-            x_ = x;
-            y_ = y;
-            length_ = length;
-        }
+        if (gap / length >= value_)
+            keep(gap / length, x, y, length);
         return true;
     }
 
     /// Whatever is still to come, the polygons only touch.
-    [[nodiscard]] bool onlyTouches() const { return found_ && value_ > -grain && value_ < grain; }
+    [[nodiscard]] bool onlyTouches() const { return value_ > -grain && value_ < grain; }
 
     bool finish(SweptHit& hit) const {
-        if (!found_)
+        if (value_ == none)
             return false;
-        const float t = std::trunc(8 * value_) / 8;
+        // Depths are far below what an int holds.
+        const float t = static_cast<float>(static_cast<int>(8 * value_)) / 8;
         if (t > -0.1F && t < 1e-6F)
             return false;
         hit.t = t;
@@ -132,10 +122,18 @@ class AxisSearch {
     }
 
   private:
+    static constexpr float none = -std::numeric_limits<float>::infinity();
+
+    void keep(float value, float x, float y, float length) {
+        value_ = value;
+        x_ = x;
+        y_ = y;
+        length_ = length;
+    }
+
     float offsetX_, offsetY_;
     float motionX_, motionY_;
-    bool found_ = false;
-    float value_ = 0;
+    float value_ = none;
     float x_ = 0;
     float y_ = 0;
     float length_ = 1;
@@ -152,32 +150,31 @@ void setTouchLogging(bool on) {
     logTouches = on;
 }
 
-bool sweptTest(const MovingShape& a, const MovingShape& b, SweptHit& hit) {
-    if (a.shape.cornerCount() == 0 || b.shape.cornerCount() == 0)
+bool sweptTest(const CollisionShape& a, const CollisionShape& b, const Vector& offset,
+               const Vector& motion, SweptHit& hit) {
+    if (a.cornerCount() == 0 || b.cornerCount() == 0)
         return false;
-    const float motionX = a.way.x - b.way.x;
-    const float motionY = a.way.y - b.way.y;
-    AxisSearch search(a.position.x - b.position.x, a.position.y - b.position.y, motionX, motionY);
+    AxisSearch search(offset, motion);
     // Any axis that fails ends the test, so the cheap ones come first.
-    if (&a.shape == &b.shape) {
-        for (const CollisionShape::Axis& axis : a.shape.axes())
+    if (&a == &b) {
+        for (const CollisionShape::Axis& axis : a.axes())
             if (const Interval own{axis.min, axis.max};
                 !search.passes(axis.x, axis.y, axis.length, own, own))
                 return false;
     } else {
-        for (const CollisionShape::Axis& axis : a.shape.axes())
+        for (const CollisionShape::Axis& axis : a.axes())
             if (!search.passes(axis.x, axis.y, axis.length, {axis.min, axis.max},
-                               project(b.shape, axis.x, axis.y)))
+                               project(b, axis.x, axis.y)))
                 return false;
-        for (const CollisionShape::Axis& axis : b.shape.axes())
-            if (!search.passes(axis.x, axis.y, axis.length, project(a.shape, axis.x, axis.y),
+        for (const CollisionShape::Axis& axis : b.axes())
+            if (!search.passes(axis.x, axis.y, axis.length, project(a, axis.x, axis.y),
                                {axis.min, axis.max}))
                 return false;
     }
     if (search.onlyTouches())
         return false;
-    if (motionX * motionX + motionY * motionY > minMotionSquared &&
-        !search.passesAcrossMotion(a.shape, b.shape))
+    if (motion.x * motion.x + motion.y * motion.y > minMotionSquared &&
+        !search.passesAcrossMotion(a, b))
         return false;
     return search.finish(hit);
 }
@@ -186,7 +183,7 @@ bool collide(Body& a, Body& b, float dt) {
     if (&a == &b || (!a.isMassive() && !b.isMassive()))
         return false;
     SweptHit hit;
-    if (!sweptTest({a.shape(), a.pos, a.vel * dt}, {b.shape(), b.pos, b.vel * dt}, hit))
+    if (!sweptTest(a.shape(), b.shape(), a.pos - b.pos, a.vel * dt - b.vel * dt, hit))
         return false;
     const bool solid = a.solid && b.solid && a.acceptsCollision(b) && b.acceptsCollision(a);
     const Vector point = a.pos + a.vel * dt * hit.t;

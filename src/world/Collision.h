@@ -9,13 +9,6 @@ namespace bc {
 class Body;
 class CollisionShape;
 
-/// A polygon at a place and its way in this step, world units.
-struct MovingShape {
-    const CollisionShape& shape;
-    Vector position;
-    Vector way;
-};
-
 struct SweptHit {
     /// Unit vector from the second polygon towards the first.
     Vector normal;
@@ -23,9 +16,12 @@ struct SweptHit {
     float t = 0;
 };
 
-/// Swept separating-axis test. A hit is an impact at least an eighth of the way into the step or an
-/// overlap of at least an eighth of a unit; in between the polygons just touch: false.
-[[nodiscard]] bool sweptTest(const MovingShape& a, const MovingShape& b, SweptHit& hit);
+/// Swept separating-axis test of two polygons. offset is from b's place to a's, motion what a's way
+/// in this step is more than b's (world units, x and y). A hit is an impact at least an eighth of
+/// the way into the step or an overlap of at least an eighth of a unit; in between the polygons
+/// just touch: false.
+[[nodiscard]] bool sweptTest(const CollisionShape& a, const CollisionShape& b, const Vector& offset,
+                             const Vector& motion, SweptHit& hit);
 
 /// Tests the pair over the next dt seconds and, on a hit, tells both bodies (a first) and resolves
 /// the contact if it is solid. The work of one candidate of a's turn. True for a hit.

@@ -5,50 +5,42 @@
 
 #include "world/Body.h"
 #include "world/QuadTreeNode.h"
-#include "world/Simd.h"
 
 #include <algorithm>
 #include <bit>
-#include <cmath>
 #include <limits>
+#include <utility>
 
 namespace bc {
 
 namespace {
 
-constexpr float none = std::numeric_limits<float>::infinity();
-
-void place(QuadTreeNode& node, float centreX, float centreY, float size) {
-    const float half = size / 2;
-    node.centreX = centreX;
-    node.centreY = centreY;
-    node.size = size;
-    node.minX = centreX - half;
-    node.maxX = centreX + half;
-    node.minY = centreY - half;
-    node.maxY = centreY + half;
+bool contains(const QuadTreeNode& node, const Box& box) {
+    return box.minX >= node.minX && box.maxX <= node.maxX && box.minY >= node.minY &&
+           box.maxY <= node.maxY;
 }
 
-void setLane(float* boxes, std::uint32_t slot, float minX, float maxX, float minY, float maxY) {
-    float* box = boxes + std::size_t{16} * (slot / 4) + slot % 4;
-    box[0] = minX;
-    box[4] = maxX;
-    box[8] = minY;
-    box[12] = maxY;
+/// Not even touching the border: no neighbour of the node, nor of a node above it, contains the
+/// box.
+bool containsWhollyInside(const QuadTreeNode& node, const Box& box) {
+    return box.minX > node.minX && box.maxX < node.maxX && box.minY > node.minY &&
+           box.maxY < node.maxY;
 }
 
-void copyLane(float* boxes, std::uint32_t from, std::uint32_t to) {
-    const float* box = boxes + std::size_t{16} * (from / 4) + from % 4;
-    setLane(boxes, to, box[0], box[4], box[8], box[12]);
+/// Bit q: quarter q contains the box.
+unsigned fittingQuarters(const QuadTreeNode& node, const Box& box) {
+    const __m128 inX =
+        _mm_and_ps(_mm_cmple_ps(_mm_load_ps(node.quarterMinX), _mm_set1_ps(box.minX)),
+                   _mm_cmpge_ps(_mm_load_ps(node.quarterMaxX), _mm_set1_ps(box.maxX)));
+    const __m128 inY =
+        _mm_and_ps(_mm_cmple_ps(_mm_load_ps(node.quarterMinY), _mm_set1_ps(box.minY)),
+                   _mm_cmpge_ps(_mm_load_ps(node.quarterMaxY), _mm_set1_ps(box.maxY)));
+    return static_cast<unsigned>(_mm_movemask_ps(_mm_and_ps(inX, inY)));
 }
 
-void setSweptBox(QuadTreeNode& node, std::uint32_t slot, const BRect& bounds) {
-    setLane(node.boxes, slot, bounds.minX, bounds.maxX, bounds.minY, bounds.maxY);
-}
-
-/// Tells the nodes above that the node, empty until now, holds something, or that it is empty now.
-void markOccupied(QuadTreeNode& node) {
-    for (QuadTreeNode* n = &node; n->parent != nullptr; n = n->parent) {
+/// Tells the nodes above that the node, empty until now, holds something.
+void markOccupied(const QuadTreeNode& node) {
+    for (const QuadTreeNode* n = &node; n->parent != nullptr; n = n->parent) {
         const bool known = n->parent->occupied != 0 || n->parent->count != 0;
         n->parent->occupied |= static_cast<std::uint8_t>(1U << n->index);
         if (known)
@@ -56,8 +48,8 @@ void markOccupied(QuadTreeNode& node) {
     }
 }
 
-void markEmpty(QuadTreeNode& node) {
-    for (QuadTreeNode* n = &node; n->parent != nullptr && n->count == 0 && n->occupied == 0;
+void markEmpty(const QuadTreeNode& node) {
+    for (const QuadTreeNode* n = &node; n->parent != nullptr && n->count == 0 && n->occupied == 0;
          n = n->parent)
         n->parent->occupied &= static_cast<std::uint8_t>(~(1U << n->index));
 }
@@ -78,11 +70,16 @@ bool QuadTree::init(const Vector& centre, float size, int depth) {
         return false;
     centre_ = centre;
     size_ = size;
+    const float half = size / 2;
     root_ = store_->takeNodes();
-    root_->tree = this;
-    place(*root_, centre.x, centre.y, size);
-    const float reach = std::max(std::fabs(centre.x), std::fabs(centre.y)) + size;
-    rim_ = 8 * (std::nextafter(reach, none) - reach);
+    root_->centreX = centre.x;
+    root_->centreY = centre.y;
+    root_->size = size;
+    root_->minX = centre.x - half;
+    root_->maxX = centre.x + half;
+    root_->minY = centre.y - half;
+    root_->maxY = centre.y + half;
+    store_->grid.init(root_->minX, root_->minY, size);
     std::vector<QuadTreeNode*> level{root_};
     for (int d = 0; d < depth; ++d) {
         std::vector<QuadTreeNode*> next;
@@ -103,7 +100,7 @@ void QuadTree::clear() {
     for (std::size_t i = 0; i < nodes.size(); ++i) {
         const QuadTreeNode& node = *nodes[i];
         for (std::uint32_t s = 0; s < node.count; ++s)
-            node.slots[s].body->node_ = nullptr;
+            store_->entries[node.slots[s]].body->tree_ = nullptr;
         for (int q = 0; q < 4 && node.quarters != nullptr; ++q)
             nodes.push_back(node.quarters + q);
     }
@@ -112,53 +109,34 @@ void QuadTree::clear() {
     visitedNodes_ = consideredBodies_ = gatheredBodies_ = 0;
 }
 
-/// Gives a leaf its four quarters.
+/// Gives a leaf its four quarters. They share the leaf's own edges and its middle lines, so that
+/// neither gaps nor overlaps come of rounding.
 void QuadTree::cut(QuadTreeNode& node) {
     QuadTreeNode* quarters = store_->takeNodes();
     const float half = node.size / 2;
-    const float q = half / 2;
-    const float x[4] = {node.centreX - q, node.centreX + q, node.centreX - q, node.centreX + q};
-    const float y[4] = {node.centreY + q, node.centreY + q, node.centreY - q, node.centreY - q};
-    for (int i = 0; i < 4; ++i) {
+    for (unsigned i = 0; i < 4; ++i) {
+        const bool right = i % 2 == 1;
+        const bool upper = i < 2;
         QuadTreeNode& quarter = quarters[i];
-        quarter.tree = this;
         quarter.parent = &node;
         quarter.index = static_cast<std::uint8_t>(i);
         quarter.depth = static_cast<std::uint8_t>(node.depth + 1);
-        place(quarter, x[i], y[i], half);
-        node.quarterMinX[i] = quarter.minX;
-        node.quarterMaxX[i] = quarter.maxX;
-        node.quarterMinY[i] = quarter.minY;
-        node.quarterMaxY[i] = quarter.maxY;
+        quarter.order =
+            ((node.order & ~std::uint64_t{255}) | std::uint64_t{i} << (62 - 2 * node.depth)) |
+            quarter.depth;
+        quarter.size = half;
+        quarter.centreX = node.centreX + (right ? half / 2 : -half / 2);
+        quarter.centreY = node.centreY + (upper ? half / 2 : -half / 2);
+        quarter.minX = node.quarterMinX[i] = right ? node.centreX : node.minX;
+        quarter.maxX = node.quarterMaxX[i] = right ? node.maxX : node.centreX;
+        quarter.minY = node.quarterMinY[i] = upper ? node.centreY : node.minY;
+        quarter.maxY = node.quarterMaxY[i] = upper ? node.maxY : node.centreY;
     }
     node.quarters = quarters;
 }
 
-namespace {
-
-/// Bit q: quarter q contains the box.
-int fittingQuarters(const Box& box, const QuadTreeNode& node) {
-    const __m128 inX =
-        _mm_and_ps(_mm_cmple_ps(_mm_loadu_ps(node.quarterMinX), _mm_set1_ps(box.minX)),
-                   _mm_cmpge_ps(_mm_loadu_ps(node.quarterMaxX), _mm_set1_ps(box.maxX)));
-    const __m128 inY =
-        _mm_and_ps(_mm_cmple_ps(_mm_loadu_ps(node.quarterMinY), _mm_set1_ps(box.minY)),
-                   _mm_cmpge_ps(_mm_loadu_ps(node.quarterMaxY), _mm_set1_ps(box.maxY)));
-    return _mm_movemask_ps(_mm_and_ps(inX, inY));
-}
-
-/// Inside the node by more than rim: no neighbour of it, nor of a node above it, contains the box.
-bool wellInside(const Box& box, const QuadTreeNode& node, float rim) {
-    return box.minX > node.minX + rim && box.maxX < node.maxX - rim && box.minY > node.minY + rim &&
-           box.maxY < node.maxY - rim;
-}
-
-}  // namespace
-
 bool QuadTree::contains(const Body& body) const {
-    const Box box = body.worldBox();
-    return root_ != nullptr && box.minX >= root_->minX && box.maxX <= root_->maxX &&
-           box.minY >= root_->minY && box.maxY <= root_->maxY;
+    return root_ != nullptr && bc::contains(*root_, body.worldBox());
 }
 
 bool QuadTree::hasRoomFor(const Body& body, const QuadTreeNode& node, std::uint32_t stored) const {
@@ -167,16 +145,20 @@ bool QuadTree::hasRoomFor(const Body& body, const QuadTreeNode& node, std::uint3
 }
 
 bool QuadTree::insert(Body& body) {
-    if (body.node_ != nullptr)
-        removeFromItsTree(body);
+    if (body.tree_ != nullptr)
+        body.tree_->remove(body);
     if (!contains(body))
         return false;
+    body.tree_ = this;
+    body.entry_ = store_->entries.add(body);
+    store_->grid.add(body.entry_, body.bounds);
     insertAt(*root_, body);
     return true;
 }
 
 /// For a body that the node contains.
 void QuadTree::insertAt(QuadTreeNode& node, Body& body) {
+    const Box box = body.worldBox();
     QuadTreeNode* n = &node;
     for (;;) {
         if (n->quarters == nullptr) {
@@ -184,101 +166,110 @@ void QuadTree::insertAt(QuadTreeNode& node, Body& body) {
                 break;
             split(*n);
         }
-        const int fitting = fittingQuarters(body.worldBox(), *n);
+        const unsigned fitting = fittingQuarters(*n, box);
         if (fitting == 0)
             break;
-        n = n->quarters + std::countr_zero(static_cast<unsigned>(fitting));
+        n = n->quarters + std::countr_zero(fitting);
     }
-    store(*n, body);
+    store(*n, body.entry_);
 }
 
-void QuadTree::store(QuadTreeNode& node, Body& body) {
+void QuadTree::store(QuadTreeNode& node, std::uint32_t at) {
     if (node.count == 4 * node.groupCapacity)
         store_->growSlots(node);
     if (node.count == 0 && node.occupied == 0)
         markOccupied(node);
-    const std::uint32_t slot = node.count++;
-    node.slots[slot] = {&body, ++sequence_};
+    node.slots[node.count] = at;
     node.restStale = true;
-    body.node_ = &node;
-    body.slot_ = slot;
-    setSweptBox(node, slot, body.bounds);
+    IndexEntry& entry = store_->entries[at];
+    entry.node = &node;
+    entry.slot = node.count++;
+    entry.sequence = nextSequence();
 }
 
-void QuadTree::takeOut(QuadTreeNode& node, std::uint32_t slot) {
-    const std::uint32_t last = --node.count;
-    node.slots[slot].body->node_ = nullptr;
-    if (slot != last) {
-        node.slots[slot] = node.slots[last];
-        node.slots[slot].body->slot_ = slot;
-        copyLane(node.boxes, last, slot);
-    }
-    setLane(node.boxes, last, none, -none, none, -none);
+std::uint32_t QuadTree::nextSequence() {
+    if (sequence_ == std::numeric_limits<std::uint32_t>::max())
+        renumber();
+    return ++sequence_;
+}
+
+void QuadTree::takeOut(std::uint32_t at) {
+    const IndexEntry& entry = store_->entries[at];
+    QuadTreeNode& node = *entry.node;
+    const std::uint32_t last = node.slots[--node.count];
+    node.slots[entry.slot] = last;
+    store_->entries[last].slot = entry.slot;
     node.restStale = true;
     if (node.count == 0)
         markEmpty(node);
 }
 
 void QuadTree::remove(Body& body) {
-    if (body.node_ != nullptr && body.node_->tree == this)
-        takeOut(*body.node_, body.slot_);
-}
-
-void QuadTree::removeFromItsTree(Body& body) {
-    body.node_->tree->remove(body);
+    if (body.tree_ != this)
+        return;
+    store_->grid.remove(body.entry_);
+    takeOut(body.entry_);
+    store_->entries.remove(body.entry_);
+    body.tree_ = nullptr;
 }
 
 bool QuadTree::reinsert(Body& body) {
-    QuadTreeNode* node = body.node_;
-    if (node == nullptr || node->tree != this)
+    if (body.tree_ != this)
         return insert(body);
     const Box box = body.worldBox();
-    const bool stays = wellInside(box, *node, rim_) &&
-                       (node->quarters == nullptr ? hasRoomFor(body, *node, node->count - 1)
-                                                  : fittingQuarters(box, *node) == 0);
-    if (!stays) {
-        takeOut(*node, body.slot_);
-        return insert(body);
+    IndexEntry& entry = store_->entries[body.entry_];
+    QuadTreeNode& node = *entry.node;
+    if (containsWhollyInside(node, box) &&
+        (node.quarters == nullptr ? hasRoomFor(body, node, node.count - 1)
+                                  : fittingQuarters(node, box) == 0)) {
+        // It would come back to the same node: only its place in the order changes.
+        entry.sequence = nextSequence();
+        if (!node.restStale)
+            node.restStale = true;
+        store_->grid.update(body.entry_, body.bounds);
+        return true;
     }
-    // It would come back to the same node: only its place in the order changes.
-    node->slots[body.slot_].sequence = ++sequence_;
-    node->restStale = true;
-    setSweptBox(*node, body.slot_, body.bounds);
+    if (!bc::contains(*root_, box)) {
+        remove(body);
+        return false;
+    }
+    takeOut(body.entry_);
+    store_->grid.update(body.entry_, body.bounds);
+    insertAt(*root_, body);
     return true;
 }
 
 void QuadTree::split(QuadTreeNode& node) {
     cut(node);
-    const auto begin = node.slots;
-    std::sort(begin, begin + node.count,
-              [](const QuadTreeSlot& a, const QuadTreeSlot& b) { return a.sequence < b.sequence; });
+    const IndexEntries& entries = store_->entries;
+    std::sort(node.slots, node.slots + node.count, [&](std::uint32_t a, std::uint32_t b) {
+        return entries[a].sequence < entries[b].sequence;
+    });
     // All of them out, then each in again in order; what fits no quarter comes back to a slot
     // before the one that is read.
-    const std::uint32_t count = node.count;
-    node.count = 0;
+    const std::uint32_t count = std::exchange(node.count, 0);
     for (std::uint32_t i = 0; i < count; ++i) {
-        Body& body = *node.slots[i].body;
-        const int fitting = fittingQuarters(body.worldBox(), node);
+        const std::uint32_t at = node.slots[i];
+        Body& body = *entries[at].body;
+        const unsigned fitting = fittingQuarters(node, body.worldBox());
         if (fitting == 0)
-            store(node, body);
+            store(node, at);
         else
-            insertAt(node.quarters[std::countr_zero(static_cast<unsigned>(fitting))], body);
+            insertAt(node.quarters[std::countr_zero(fitting)], body);
     }
-    for (std::uint32_t slot = node.count; slot < count; ++slot)
-        setLane(node.boxes, slot, none, -none, none, -none);
     node.restStale = true;
 }
 
 void QuadTree::boundsChanged(const Body& body) {
-    setSweptBox(*body.node_, body.slot_, body.bounds);
+    store_->grid.update(body.entry_, body.bounds);
 }
 
 void QuadTree::geometryChanged(const Body& body) {
-    body.node_->restStale = true;
+    store_->entries[body.entry_].node->restStale = true;
 }
 
 int QuadTree::depthOf(const Body& body) {
-    return body.node_ != nullptr ? body.node_->depth : -1;
+    return body.tree_ != nullptr ? body.tree_->store_->entries[body.entry_].node->depth : -1;
 }
 
 }  // namespace bc

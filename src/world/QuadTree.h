@@ -15,6 +15,7 @@ namespace bc {
 
 class Body;
 class Frustum;
+class IndexHits;
 class IRenderer;
 class QuadTreeStore;
 struct QuadTreeNode;
@@ -50,6 +51,9 @@ class QuadTree {
     [[nodiscard]] bool isEmpty() const { return root_ == nullptr; }
     [[nodiscard]] const Vector& centre() const { return centre_; }
     [[nodiscard]] float size() const { return size_; }
+    /// Counts the bodies' order anew from the start, which the tree does by itself before it runs
+    /// out of numbers. Nothing else changes.
+    void renumber();
     /// False: leaves take in any number of bodies.
     void setSplittable(bool splittable) { splittable_ = splittable; }
 
@@ -62,9 +66,13 @@ class QuadTree {
     /// Every corner inside the square or on its border; a body without corners is contained.
     [[nodiscard]] bool contains(const Body& body) const;
 
-    /// Appends the bodies whose swept bounds overlap body's, itself included; for a static body
-    /// only massive ones.
-    void queryCandidates(const Body& body, std::vector<Body*>& out) const;
+    /// Appends the bodies whose swept bounds overlap body's, as far as the squares of the nodes
+    /// that store them do so too; for a static body only massive ones. The body itself is among
+    /// them unless withSelf is false.
+    void queryCandidates(const Body& body, std::vector<Body*>& out, bool withSelf = true) const;
+    /// Brings what queryCandidates will read nearer to the processor, to be called a few bodies
+    /// ahead of it.
+    void prefetchFor(const Body& body) const;
     /// Appends the bodies whose pos is within their sweptRadius + radius of the point.
     void queryRadius(const Vector& point, float radius, std::vector<Body*>& out) const;
     /// Appends a hit for each body whose outline the ray crosses, at the first crossing.
@@ -101,15 +109,17 @@ class QuadTree {
     friend class Body;
 
     /// The body's bounds changed.
-    static void boundsChanged(const Body& body);
+    void boundsChanged(const Body& body);
     /// The body's polygon changed or moved.
-    static void geometryChanged(const Body& body);
+    void geometryChanged(const Body& body);
 
-    static void removeFromItsTree(Body& body);
     void insertAt(QuadTreeNode& node, Body& body);
-    void store(QuadTreeNode& node, Body& body);
-    void takeOut(QuadTreeNode& node, std::uint32_t slot);
+    void store(QuadTreeNode& node, std::uint32_t entry);
+    void takeOut(std::uint32_t entry);
+    std::uint32_t nextSequence();
     void split(QuadTreeNode& node);
+    /// The node's bodies in list order, in the scratch space.
+    [[nodiscard]] const IndexHits& listed(const QuadTreeNode& node) const;
     void cut(QuadTreeNode& node);
     [[nodiscard]] bool hasRoomFor(const Body& body, const QuadTreeNode& node,
                                   std::uint32_t stored) const;
@@ -119,10 +129,8 @@ class QuadTree {
     Vector centre_;
     float size_ = 0;
     bool splittable_ = true;
-    /// How far inside a node a body must be so that rounding cannot put it into a neighbour.
-    float rim_ = 0;
     /// Grows with every insertion and orders the bodies of a node.
-    std::uint64_t sequence_ = 0;
+    std::uint32_t sequence_ = 0;
     int visitedNodes_ = 0;
     int consideredBodies_ = 0;
     int gatheredBodies_ = 0;

@@ -3,35 +3,15 @@
 #include "world/QuadTreeNode.h"
 
 #include <algorithm>
-#include <cstring>
-#include <limits>
 #include <new>
 
 namespace bc {
 
 namespace {
 
-constexpr std::size_t bytesPerGroup = 2 * 16 * sizeof(float) + 4 * sizeof(QuadTreeSlot);
+constexpr std::size_t bytesPerGroup = 16 * sizeof(float) + 4 * sizeof(std::uint32_t);
 
 }  // namespace
-
-void sortBySequence(std::vector<QuadTreeSlot>& slots) {
-    const auto before = [](const QuadTreeSlot& a, const QuadTreeSlot& b) {
-        return a.sequence < b.sequence;
-    };
-    constexpr std::size_t few = 24;
-    if (slots.size() > few) {
-        std::sort(slots.begin(), slots.end(), before);
-        return;
-    }
-    for (std::size_t i = 1; i < slots.size(); ++i) {
-        const QuadTreeSlot slot = slots[i];
-        std::size_t to = i;
-        for (; to > 0 && before(slot, slots[to - 1]); --to)
-            slots[to] = slots[to - 1];
-        slots[to] = slot;
-    }
-}
 
 void QuadTreeStore::AlignedDelete::operator()(std::byte* p) const {
     ::operator delete[](p, std::align_val_t{alignment});
@@ -80,25 +60,15 @@ void QuadTreeStore::growSlots(QuadTreeNode& node) {
     } else {
         memory = takeBytes(groups * bytesPerGroup);
     }
+    // The boxes come first: they are read in groups and want the alignment.
     auto* boxes = reinterpret_cast<float*>(memory);
-    auto* slots = reinterpret_cast<QuadTreeSlot*>(boxes + std::size_t{16} * groups);
-    const std::uint32_t used = node.groupCapacity;
-    if (used > 0) {
-        std::memcpy(boxes, node.boxes, std::size_t{16} * used * sizeof(float));
-        std::memcpy(slots, node.slots, std::size_t{4} * used * sizeof(QuadTreeSlot));
-        auto* freed = new (node.boxes) FreeSlots{free_[sizeClass - 1]};
-        free_[sizeClass - 1] = freed;
+    auto* slots = reinterpret_cast<std::uint32_t*>(boxes + std::size_t{16} * groups);
+    if (node.groupCapacity > 0) {
+        std::copy_n(node.slots, node.count, slots);
+        free_[sizeClass - 1] = new (node.restBoxes) FreeSlots{free_[sizeClass - 1]};
     }
-    constexpr float none = std::numeric_limits<float>::infinity();
-    for (std::uint32_t g = used; g < groups; ++g)
-        for (std::uint32_t lane = 0; lane < 4; ++lane) {
-            float* box = boxes + std::size_t{16} * g + lane;
-            box[0] = box[8] = none;
-            box[4] = box[12] = -none;
-        }
-    node.boxes = boxes;
+    node.restBoxes = boxes;
     node.slots = slots;
-    node.restBoxes = reinterpret_cast<float*>(slots + std::size_t{4} * groups);
     node.groupCapacity = groups;
     node.restStale = true;
 }
@@ -108,6 +78,7 @@ void QuadTreeStore::reset() {
     slab_ = 0;
     bytesUsed_ = 0;
     std::fill(std::begin(free_), std::end(free_), nullptr);
+    entries.clear();
 }
 
 }  // namespace bc

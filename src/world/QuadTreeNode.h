@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "world/BRect.h"
+#include "world/CandidateGrid.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,36 +11,17 @@
 
 namespace bc {
 
-class Body;
-class QuadTree;
-
-// How the tree lies in memory. Each node keeps its bodies' boxes in groups of four that are tested
-// at once: 16 floats, four each of min x, max x, min y and max y. Unused lanes hold a box that
-// overlaps nothing. The order of the bodies in the node's list is that of their sequence numbers;
-// their slots have none.
-
-struct QuadTreeSlot {
-    Body* body;
-    std::uint64_t sequence;
-};
-
-/// Into the order of the node's list.
-void sortBySequence(std::vector<QuadTreeSlot>& slots);
-
+/// One square of the tree. The order of the bodies in its list is that of their sequence numbers;
+/// their slots have none.
 struct alignas(64) QuadTreeNode {
-    // The quarters' squares, tested four at a time.
-    float quarterMinX[4];
-    float quarterMaxX[4];
-    float quarterMinY[4];
-    float quarterMaxY[4];
-
+    float minX, maxX, minY, maxY;
+    /// Grows in search order: the quarters on the way from the root, two bits each from the top,
+    /// then the depth.
+    std::uint64_t order;
     /// Four nodes, or null for a leaf.
     QuadTreeNode* quarters;
-    /// Boxes of the motion of the step, then the slots, then the boxes of the resting polygons.
-    float* boxes;
-    QuadTreeSlot* slots;
-    /// Filled when a trace first comes by after restStale was set.
-    float* restBoxes;
+    /// Entries of its bodies.
+    std::uint32_t* slots;
     std::uint32_t count;
     /// In groups of four.
     std::uint32_t groupCapacity;
@@ -48,18 +29,27 @@ struct alignas(64) QuadTreeNode {
     std::uint8_t occupied;
     std::uint8_t index;
     std::uint8_t depth;
+    /// The rest boxes do not match the bodies any more.
     mutable bool restStale;
-    QuadTreeNode* parent;
-    QuadTree* tree;
 
-    float minX, maxX, minY, maxY;
+    // The quarters' squares, tested four at a time.
+    alignas(64) float quarterMinX[4];
+    float quarterMaxX[4];
+    float quarterMinY[4];
+    float quarterMaxY[4];
+
+    /// The boxes of the bodies' polygons for traces, in groups of four: 16 floats, four each of
+    /// min x, max x, min y and max y. Brought up to date when a trace comes by.
+    float* restBoxes;
+    QuadTreeNode* parent;
     float centreX, centreY, size;
 
     [[nodiscard]] std::uint32_t groups() const { return (count + 3) / 4; }
 };
 
-/// Memory of one tree's nodes and their slots. Grows as the tree does and never shrinks, so that a
-/// world that has run for a while asks for nothing more; reset makes all of it free again.
+/// What a tree works on: its nodes, their slots, the grid beside them. Memory grows as the tree
+/// does and never shrinks, so that a world that has run for a while asks for nothing more; reset
+/// makes all of it free again.
 class QuadTreeStore {
   public:
     QuadTreeStore() = default;
@@ -72,8 +62,10 @@ class QuadTreeStore {
     void growSlots(QuadTreeNode& node);
     void reset();
 
+    IndexEntries entries;
+    CandidateGrid grid{entries};
     /// Scratch space of the queries.
-    std::vector<QuadTreeSlot> hits;
+    IndexHits hits;
 
   private:
     static constexpr std::size_t nodesPerBlock = 256;

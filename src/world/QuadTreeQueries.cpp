@@ -35,70 +35,25 @@ class NodeStack {
     int size_ = 0;
 };
 
-struct BoxLanes {
-    explicit BoxLanes(const Box& box)
-        : minX(_mm_set1_ps(box.minX)),
-          maxX(_mm_set1_ps(box.maxX)),
-          minY(_mm_set1_ps(box.minY)),
-          maxY(_mm_set1_ps(box.maxY)) {}
-    /// Bit i: truly overlaps box i of four.
-    [[nodiscard]] int overlapping(const float* minXs, const float* maxXs, const float* minYs,
-                                  const float* maxYs) const {
-        const __m128 x = _mm_and_ps(_mm_cmplt_ps(minX, _mm_load_ps(maxXs)),
-                                    _mm_cmpgt_ps(maxX, _mm_load_ps(minXs)));
-        const __m128 y = _mm_and_ps(_mm_cmplt_ps(minY, _mm_load_ps(maxYs)),
-                                    _mm_cmpgt_ps(maxY, _mm_load_ps(minYs)));
-        return _mm_movemask_ps(_mm_and_ps(x, y));
-    }
-    [[nodiscard]] int overlappingGroup(const float* boxes) const {
-        return overlapping(boxes, boxes + 4, boxes + 8, boxes + 12);
-    }
-    [[nodiscard]] int overlappingQuarters(const QuadTreeNode& node) const {
-        return overlapping(node.quarterMinX, node.quarterMaxX, node.quarterMinY, node.quarterMaxY);
-    }
-    __m128 minX, maxX, minY, maxY;
-};
-
 }  // namespace
 
-void QuadTree::queryCandidates(const Body& body, std::vector<Body*>& out) const {
+void QuadTree::queryCandidates(const Body& body, std::vector<Body*>& out, bool withSelf) const {
     if (root_ == nullptr)
         return;
-    const BRect& r = body.bounds;
-    if (!(r.minY < root_->maxY && r.maxY > root_->minY && r.minX < root_->maxX &&
-          r.maxX > root_->minX))
-        return;
-    const BoxLanes lanes({r.minX, r.maxX, r.minY, r.maxY});
-    const bool massive = body.isMassive();
-    std::vector<QuadTreeSlot>& hits = store_->hits;
-    NodeStack stack(root_);
-    while (!stack.empty()) {
-        const QuadTreeNode& node = *stack.pop();
-        hits.clear();
-        for (std::uint32_t g = 0; g < node.groups(); ++g) {
-            auto mask =
-                static_cast<unsigned>(lanes.overlappingGroup(node.boxes + std::size_t{16} * g));
-            for (; mask != 0; mask &= mask - 1) {
-                const QuadTreeSlot& slot =
-                    node.slots[4 * g + static_cast<unsigned>(std::countr_zero(mask))];
-                if (massive || slot.body->isMassive())
-                    hits.push_back(slot);
-            }
-        }
-        if (!hits.empty()) {
-            sortBySequence(hits);
-            for (const QuadTreeSlot& slot : hits)
-                out.push_back(slot.body);
-        }
-        if (node.occupied != 0)
-            stack.pushQuarters(node, lanes.overlappingQuarters(node) & node.occupied);
-    }
+    store_->grid.query(body, store_->entries.isOf(body.entry_, body), withSelf, store_->hits);
+    for (const IndexHit& hit : store_->hits)
+        out.push_back(hit.body);
+}
+
+void QuadTree::prefetchFor(const Body& body) const {
+    if (store_->entries.isOf(body.entry_, body))
+        store_->grid.prefetch(body.entry_);
 }
 
 void QuadTree::queryRadius(const Vector& point, float radius, std::vector<Body*>& out) const {
     if (root_ == nullptr)
         return;
-    std::vector<QuadTreeSlot>& hits = store_->hits;
+    IndexHits& hits = store_->hits;
     NodeStack stack(root_);
     while (!stack.empty()) {
         const QuadTreeNode& node = *stack.pop();
@@ -108,13 +63,13 @@ void QuadTree::queryRadius(const Vector& point, float radius, std::vector<Body*>
             continue;
         hits.clear();
         for (std::uint32_t s = 0; s < node.count; ++s) {
-            const Body& body = *node.slots[s].body;
-            if (planarDistance(point, body.pos) <= body.sweptRadius + radius)
-                hits.push_back(node.slots[s]);
+            const IndexEntry& entry = store_->entries[node.slots[s]];
+            if (planarDistance(point, entry.body->pos) <= entry.body->sweptRadius + radius)
+                hits.add({0, entry.sequence, entry.body});
         }
-        sortBySequence(hits);
-        for (const QuadTreeSlot& slot : hits)
-            out.push_back(slot.body);
+        hits.sort();
+        for (const IndexHit& hit : hits)
+            out.push_back(hit.body);
         if (node.occupied != 0)
             stack.pushQuarters(node, node.occupied);
     }
@@ -197,11 +152,11 @@ bool crossing(const Ray& ray, const std::vector<Vector>& corners, float& t) {
     return found;
 }
 
-void refreshRestBoxes(const QuadTreeNode& node) {
+void refreshRestBoxes(const QuadTreeNode& node, const IndexEntries& entries) {
     for (std::uint32_t s = 0; s < 4 * node.groups(); ++s) {
         constexpr float none = std::numeric_limits<float>::infinity();
-        const Box box =
-            s < node.count ? node.slots[s].body->worldBox() : Box{none, -none, none, -none};
+        const Box box = s < node.count ? entries[node.slots[s]].body->worldBox()
+                                       : Box{none, -none, none, -none};
         float* lane = node.restBoxes + std::size_t{16} * (s / 4) + s % 4;
         lane[0] = box.minX;
         lane[4] = box.maxX;
@@ -225,27 +180,29 @@ void QuadTree::trace(const Ray& ray, TraceResults& out, bool includeNonSolid) co
                                            root_->maxY, root_->maxY, root_->maxY, root_->maxY};
     if (lanes.meets(rootBox, rootBox + 4, rootBox + 8, rootBox + 12) == 0)
         return;
-    std::vector<QuadTreeSlot>& hits = store_->hits;
+    IndexHits& hits = store_->hits;
     NodeStack stack(root_);
     while (!stack.empty()) {
         const QuadTreeNode& node = *stack.pop();
         if (node.restStale && node.count > 0) {
-            refreshRestBoxes(node);
+            refreshRestBoxes(node, store_->entries);
             node.restStale = false;
         }
         hits.clear();
         for (std::uint32_t g = 0; g < node.groups(); ++g) {
             const float* boxes = node.restBoxes + std::size_t{16} * g;
             auto mask = static_cast<unsigned>(lanes.meets(boxes, boxes + 4, boxes + 8, boxes + 12));
-            for (; mask != 0; mask &= mask - 1)
-                hits.push_back(node.slots[4 * g + static_cast<unsigned>(std::countr_zero(mask))]);
+            for (; mask != 0; mask &= mask - 1) {
+                const unsigned slot = 4 * g + static_cast<unsigned>(std::countr_zero(mask));
+                const IndexEntry& entry = store_->entries[node.slots[slot]];
+                hits.add({0, entry.sequence, entry.body});
+            }
         }
-        sortBySequence(hits);
-        for (const QuadTreeSlot& slot : hits) {
+        hits.sort();
+        for (const IndexHit& hit : hits) {
             float t = 0;
-            if ((slot.body->solid || includeNonSolid) &&
-                crossing(ray, slot.body->worldVertices(), t))
-                out.push_back({t, length * t, ray.start + ray.direction * t, slot.body});
+            if ((hit.body->solid || includeNonSolid) && crossing(ray, hit.body->worldVertices(), t))
+                out.push_back({t, length * t, ray.start + ray.direction * t, hit.body});
         }
         if (node.occupied != 0)
             stack.pushQuarters(node, lanes.meetsQuarters(node) & node.occupied);

@@ -15,12 +15,6 @@ namespace bc {
 
 namespace {
 
-/// Copies the node's slots into hits in list order.
-void listSlots(const QuadTreeNode& node, std::vector<QuadTreeSlot>& hits) {
-    hits.assign(node.slots, node.slots + node.count);
-    sortBySequence(hits);
-}
-
 template <class Visit>
 void walk(const QuadTreeNode& node, Visit& visit) {
     if (!visit(node) || node.quarters == nullptr)
@@ -31,6 +25,29 @@ void walk(const QuadTreeNode& node, Visit& visit) {
 
 }  // namespace
 
+const IndexHits& QuadTree::listed(const QuadTreeNode& node) const {
+    IndexHits& hits = store_->hits;
+    hits.clear();
+    for (std::uint32_t s = 0; s < node.count; ++s) {
+        const IndexEntry& entry = store_->entries[node.slots[s]];
+        hits.add({0, entry.sequence, entry.body});
+    }
+    hits.sort();
+    return hits;
+}
+
+void QuadTree::renumber() {
+    std::uint32_t next = 0;
+    const auto visit = [&](const QuadTreeNode& node) {
+        for (const IndexHit& hit : listed(node))
+            store_->entries[hit.body->entry_].sequence = ++next;
+        return true;
+    };
+    if (root_ != nullptr)
+        walk(*root_, visit);
+    sequence_ = next;
+}
+
 void QuadTree::gatherVisible(const Frustum& view, bool cullNodes, bool cullBodies,
                              std::vector<Body*>& out) {
     visitedNodes_ = consideredBodies_ = gatheredBodies_ = 0;
@@ -39,12 +56,11 @@ void QuadTree::gatherVisible(const Frustum& view, bool cullNodes, bool cullBodie
             return false;
         ++visitedNodes_;
         consideredBodies_ += static_cast<int>(node.count);
-        listSlots(node, store_->hits);
-        for (const QuadTreeSlot& slot : store_->hits) {
-            const BRect& r = slot.body->bounds;
-            slot.body->inView = !cullBodies || !view.isRectOutside(r.minX, r.minY, r.maxX, r.maxY);
-            if (slot.body->inView) {
-                out.push_back(slot.body);
+        for (const IndexHit& hit : listed(node)) {
+            const BRect& r = hit.body->bounds;
+            hit.body->inView = !cullBodies || !view.isRectOutside(r.minX, r.minY, r.maxX, r.maxY);
+            if (hit.body->inView) {
+                out.push_back(hit.body);
                 ++gatheredBodies_;
             }
         }
@@ -83,10 +99,9 @@ void QuadTree::drawDebug(IRenderer& renderer, float depth, float alpha) const {
 void QuadTree::forEachNode(const std::function<void(const NodeView&)>& show) const {
     std::vector<Body*> bodies;
     const auto visit = [&](const QuadTreeNode& node) {
-        listSlots(node, store_->hits);
         bodies.clear();
-        for (const QuadTreeSlot& slot : store_->hits)
-            bodies.push_back(slot.body);
+        for (const IndexHit& hit : listed(node))
+            bodies.push_back(hit.body);
         show({node.centreX, node.centreY, node.size, node.depth, node.quarters == nullptr, bodies});
         return true;
     };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The passes of a simulation step.
 #include "console/GameVar.h"
+#include "world/BodyStep.h"
 #include "world/Collision.h"
 #include "world/QuadTreeNode.h"
 #include "world/World.h"
@@ -10,9 +11,12 @@ namespace bc {
 
 namespace {
 
+// In a crowded world memory is what a step waits for, and the list tells early what comes next.
+constexpr std::size_t bodiesAhead = 8;
+constexpr std::size_t cellsAhead = 4;
+
 void pullDown(Body& body, float step, float gravity) {
-    if (body.isMassive())
-        body.applyForce(Vector(0, body.mass * body.gravitymultiplier * gravity), step);
+    BodyStep::applyForce(body, Vector(0, body.mass * body.gravitymultiplier * gravity), step);
 }
 
 }  // namespace
@@ -43,6 +47,10 @@ void World::interactAll(float step) {
     const DeferredDeletion deferred(*this);
     bodyCursor_ = 0;
     while (bodyCursor_ < activeBodies_.size()) {
+        if (bodyCursor_ + bodiesAhead < activeBodies_.size())
+            BodyStep::prefetch(*activeBodies_[bodyCursor_ + bodiesAhead]);
+        if (bodyCursor_ + cellsAhead < activeBodies_.size())
+            quadtree_.prefetchFor(*activeBodies_[bodyCursor_ + cellsAhead]);
         Body* body = activeBodies_[bodyCursor_++];
         if (body->alwaysActive || isNearPlayer(*body))
             collideBody(body, step);
@@ -51,32 +59,47 @@ void World::interactAll(float step) {
 
 void World::collideBody(Body* body, float step) {
     collisionCandidates_.clear();
-    quadtree_.queryCandidates(*body, collisionCandidates_);
+    quadtree_.queryCandidates(*body, collisionCandidates_, false);
     candidateCursor_ = 0;
-    while (candidateCursor_ < collisionCandidates_.size() && !body->isGone())
-        collide(*body, *collisionCandidates_[candidateCursor_++], step);
+    while (candidateCursor_ < collisionCandidates_.size()) {
+        Body* candidate = collisionCandidates_[candidateCursor_++];
+        if (collide(*body, *candidate, step) && body->isGone())
+            return;
+    }
 }
 
 void World::moveBodies(float step) {
     const DeferredDeletion deferred(*this);
     bodyCursor_ = 0;
     while (bodyCursor_ < activeBodies_.size()) {
+        if (bodyCursor_ + bodiesAhead < activeBodies_.size()) {
+            const Body& ahead = *activeBodies_[bodyCursor_ + bodiesAhead];
+            BodyStep::prefetch(ahead);
+            BodyStep::prefetchMotion(ahead);
+            BodyStep::prefetchBounds(ahead);
+        }
         Body* body = activeBodies_[bodyCursor_++];
         if (body->cancleanup) {
             destroyBody(body);
             continue;
         }
         if (body->alwaysActive || isNearPlayer(*body))
-            body->advance(step);
+            BodyStep::move(*body, step);
         if (body->isMassive() || body->nonmassmover) {
-            body->followGeometry();
+            BodyStep::followGeometry(*body);
             quadtree_.reinsert(*body);
         }
     }
 }
 
 void World::simulate(float step, float gravity) {
-    for (Body* body : activeBodies_) {
+    const std::size_t count = activeBodies_.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        if (i + bodiesAhead < count) {
+            BodyStep::prefetch(*activeBodies_[i + bodiesAhead]);
+            BodyStep::prefetchMotion(*activeBodies_[i + bodiesAhead]);
+        }
+        Body* body = activeBodies_[i];
         pullDown(*body, step, gravity);
         body->frozenvel = body->vel;
         body->contact = false;
