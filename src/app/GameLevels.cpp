@@ -72,6 +72,7 @@ void Game::unloadMap() {
     world_.deleteBodies();
     world_.clear();
     particleManager().clearSystems();
+    skyManager_.restartParticles();
     levelLoaded_ = false;
     worldActive_ = false;
 }
