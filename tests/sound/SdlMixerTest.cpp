@@ -200,7 +200,9 @@ TEST_F(SdlMixerTest, WithoutADeviceTheGameRunsInSilence) {
     EXPECT_THAT(run("setvolume 129"), testing::ElementsAre("Volume must be between 0 and 128"));
     dynamic_cast<Playlist&>(*sound.getPlaylist()).setTracks({"a.wav", "b.wav"});
     EXPECT_THAT(run("plnext; plinfo"),
-                testing::ElementsAre("Mix_PlayMusic failed for: a.wav", "Now Playing: a.wav"));
+                testing::ElementsAre(testing::AnyOf("Mix_LoadMUS failed for: a.wav",
+                                                    "Mix_PlayMusic failed for: a.wav"),
+                                     "Now Playing: a.wav"));
     // A device that comes later is taken.
     setenv("SDL_AUDIODRIVER", "disk", 1);
     EXPECT_EQ(logOf([] { commands().execute("soundrestart"); }), "Audio Format: 32784\n");
