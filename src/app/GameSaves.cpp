@@ -102,9 +102,10 @@ bool Game::loadGame(const std::string& name) {
     unloadMap();
     world_.quadtree().setSplittable(true);
     world_.setNextBodyId(xml::readInt(*root, "nextbodyid"));
+    // The clock first: what bodies note while they are put into the world is on it.
+    gameplay_->loadGameplayState(*root);
     insertBodies(world_, std::move(*bodies), true);
     currentLevel_ = level;
-    gameplay_->loadGameplayState(*root);
     insertPlayer();
     gameInput_->clearActions();
     gameplay_->startLevel("");

@@ -31,6 +31,8 @@ void PooledBody::renew() {
     isfiring = placed = inView = false;
     nextthink = 0;
     autoid = 0;
+    // Textures may have been loaded anew since.
+    textureHandle = -1;
     id = "generic";
     targets.clear();
     targetBodies.clear();

@@ -138,6 +138,7 @@ void DefaultGameplay::startLevel(const std::string& spawnName) {
     if (player_ != nullptr)
         player_->revive();
     stateLoaded_ = false;
+    endedLevelTime_ = 0;
     gibCount_ = 0;
     spawnPoints_.clear();
     World* world = GameplaySingleton::instance().world();
@@ -159,7 +160,7 @@ void DefaultGameplay::startLevel(const std::string& spawnName) {
 void DefaultGameplay::carryPlayerOver() {
     if (player_ == nullptr)
         return;
-    const float elapsed = levelTime();
+    const float elapsed = endedLevelTime_ + levelTime();
     player_->quadTime -= elapsed;
     player_->nextPainTime -= elapsed;
     player_->invincTime -= elapsed;
@@ -182,11 +183,16 @@ void DefaultGameplay::placePlayer(const std::string& spawnName) {
 }
 
 void DefaultGameplay::endLevel() {
+    if (player_ != nullptr)
+        player_->inventory.unfireAll(levelTime());
+    // What the bodies of the next level note while they load counts from that level's start.
+    endedLevelTime_ += levelTime();
+    levelClock().restart();
     levelClock().running = false;
     spawnPoints_.clear();
     gibCount_ = 0;
-    if (player_ != nullptr)
-        player_->inventory.unfireAll(levelTime());
+    // A race ends with its level.
+    raceActive_ = false;
 }
 
 void DefaultGameplay::draw() {

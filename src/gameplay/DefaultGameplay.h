@@ -88,6 +88,8 @@ class DefaultGameplay final : public IGameplay {
     int gibCount_ = 0;
     /// A save was read: its clocks stay in force at the next level start.
     bool stateLoaded_ = false;
+    /// Level time of the level that ended last, until the next one starts (ms).
+    float endedLevelTime_ = 0;
     bool raceActive_ = false;
     BasicTimer raceClock_;
 };

@@ -91,6 +91,8 @@ TEST_F(DefaultGameplayTest, PowerUpsGoOnFromLevelToLevel) {
     player->nextPainTime = levelTime() + 100;
     endLevel();
     EXPECT_EQ(systemsOf("quadeffect"), 0);
+    // What bodies note while they load counts from the start of their level.
+    EXPECT_FLOAT_EQ(levelTime(), 0);
     advanceVirtualTicks(4321);  // Loading takes its time.
     startLevel();
     EXPECT_FLOAT_EQ(levelTime(), 0);
