@@ -14,6 +14,11 @@ namespace bc {
 
 namespace {
 
+/// A condition to be reckoned with instead of branched on.
+unsigned bit(bool condition) {
+    return condition ? 1 : 0;
+}
+
 /// A box made ready to be compared with others by one instruction: min x, -max x, min y, -max y.
 class OverlapTest {
   public:
@@ -234,8 +239,7 @@ class CandidateGrid::Query {
         for (std::uint32_t i = 0; i < count; ++i) {
             const std::uint32_t entry = met[i] & entryMask;
             met[overlapping] = met[i];
-            overlapping += static_cast<std::uint32_t>(test_.overlaps(&boxes[entry].minX)) &
-                           static_cast<std::uint32_t>(entry != leftOut_);
+            overlapping += bit(test_.overlaps(&boxes[entry].minX)) & bit(entry != leftOut_);
         }
         hits_.makeRoom(overlapping + 1);
         for (std::uint32_t i = 0; i < overlapping; ++i) {
@@ -276,10 +280,10 @@ class CandidateGrid::Query {
         const IndexEntry& entry = grid_.entries_[met];
         // Of the cells that both reach into, the first reports it.
         const CellRange its(entry.cells);
-        const bool first = (x == std::max(range.x0, its.x0)) & (y == std::max(range.y0, its.y0));
-        hits_.addIf(
-            first & test_.overlaps(&entry.node->minX) & (massive_ || entry.body->isMassive()),
-            {entry.node->order, entry.sequence, entry.body});
+        const unsigned wanted =
+            bit(x == std::max(range.x0, its.x0)) & bit(y == std::max(range.y0, its.y0)) &
+            bit(test_.overlaps(&entry.node->minX)) & bit(massive_ || entry.body->isMassive());
+        hits_.addIf(wanted != 0, {entry.node->order, entry.sequence, entry.body});
     }
 
     const CandidateGrid& grid_;
