@@ -1,174 +1,213 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-// What a query of the spatial index yields, compared with a plain reading of its rules.
+// Which candidates a query of the spatial index yields and in what order, compared with a tree
+// written down as plainly as can be.
 #include "core/Random.h"
 #include "world/QuadTree.h"
 #include "world/World.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <map>
+#include <list>
+#include <memory>
 #include <vector>
 
 namespace bc {
 namespace {
 
-/// Nodes in search order and the bodies of each in list order, as the tree itself tells.
-std::vector<Body*> plainCandidates(const QuadTree& tree, const Body& asking) {
-    std::vector<Body*> found;
-    tree.forEachNode([&](const QuadTree::NodeView& node) {
-        const float h = node.size / 2;
-        const bool reached =
-            node.centreY - h < asking.bounds.maxY && node.centreY + h > asking.bounds.minY &&
-            node.centreX - h < asking.bounds.maxX && node.centreX + h > asking.bounds.minX;
-        if (!reached)
-            return;
-        for (Body* body : node.bodies)
-            if ((asking.isMassive() || body->isMassive()) && asking.overlaps(*body))
-                found.push_back(body);
-    });
-    return found;
-}
+class PlainTree {
+  public:
+    PlainTree(float x, float y, float size, int depth) : x_(x), y_(y), size_(size) {
+        if (depth > 0)
+            cut(depth - 1);
+    }
 
-class CandidateOrderTest : public testing::Test {
-  protected:
-    CandidateOrderTest() {
-        seedRandom(7);
-        world.quadtree().init(Vector(100, -50), 3000, 2);
-    }
-    Body* addRandom(bool massive) {
-        auto body = std::make_unique<Body>();
-        const float size = massive ? 16 : randomRange(20, 400);
-        body->makeBox(size, randomRange(10, 200));
-        if (!massive)
-            body->mass = body->invMass = 0;
-        body->gravitymultiplier = 0;
-        body->setPosition(Vector(randomRange(-1300, 1500), randomRange(-1450, 1350)));
-        if (massive)
-            body->vel.set(randomRange(-300, 300), randomRange(-300, 300));
-        body->updateGeometry();
-        body->computeBounds();
-        return world.spawnBody(std::move(body));
-    }
-    void compareAll(const char* when) {
-        std::vector<Body*> fast;
-        for (const Body* body : world.allBodies()) {
-            fast.clear();
-            world.quadtree().queryCandidates(*body, fast);
-            ASSERT_EQ(fast, plainCandidates(world.quadtree(), *body)) << when;
+    bool insert(Body* body) {
+        if (!contains(*body))
+            return false;
+        if (quarters_.empty()) {
+            if (bodies_.size() < 20 || body->entity || size_ < 2 * QuadTree::minNodeSize) {
+                bodies_.push_back(body);
+                return true;
+            }
+            cut(0);
+            std::list<Body*> all;
+            all.swap(bodies_);
+            for (Body* other : all)
+                insert(other);
         }
+        for (const auto& quarter : quarters_)
+            if (quarter->insert(body))
+                return true;
+        bodies_.push_back(body);
+        return true;
     }
-    World world;
+    void remove(Body* body) {
+        bodies_.remove(body);
+        for (const auto& quarter : quarters_)
+            quarter->remove(body);
+    }
+    void candidates(const Body& asking, std::vector<Body*>& out) const {
+        const float h = size_ / 2;
+        const BRect& r = asking.bounds;
+        if (!(y_ - h < r.maxY && y_ + h > r.minY && x_ - h < r.maxX && x_ + h > r.minX))
+            return;
+        for (Body* body : bodies_)
+            if ((asking.isMassive() || body->isMassive()) && asking.overlaps(*body))
+                out.push_back(body);
+        for (const auto& quarter : quarters_)
+            quarter->candidates(asking, out);
+    }
+
+  private:
+    void cut(int depth) {
+        const float q = size_ / 4;
+        for (const float y : {y_ + q, y_ - q})
+            for (const float x : {x_ - q, x_ + q})
+                quarters_.push_back(std::make_unique<PlainTree>(x, y, size_ / 2, depth));
+    }
+    [[nodiscard]] bool contains(const Body& body) const {
+        const float h = size_ / 2;
+        for (const Vector& corner : body.worldVertices())
+            if (!(x_ - h <= corner.x && corner.x <= x_ + h && y_ - h <= corner.y &&
+                  corner.y <= y_ + h))
+                return false;
+        return true;
+    }
+
+    float x_, y_, size_;
+    std::list<Body*> bodies_;
+    std::vector<std::unique_ptr<PlainTree>> quarters_;
 };
 
-TEST_F(CandidateOrderTest, StaysThatOfTheRulesWhileTheWorldChanges) {
-    for (int i = 0; i < 150; ++i)
+/// A world and the plain tree, kept in step.
+class CandidateOrderTest : public testing::TestWithParam<std::uint32_t> {
+  protected:
+    static constexpr float size = 4096;
+
+    CandidateOrderTest() {
+        seedRandom(GetParam());
+        world.quadtree().init(Vector(), size, 2);
+    }
+    void addRandom(bool massive) {
+        auto body = std::make_unique<Body>();
+        body->makeBox(massive ? randomRange(4, 20) : randomRange(20, 700),
+                      massive ? 16 : randomRange(10, 300));
+        if (!massive)
+            body->mass = body->invMass = 0;
+        body->entity = randomInt() % 4 == 0;
+        // Crowded on one side, and some on the very lines between quarters.
+        body->setPosition(Vector(randomRange(-1800, randomInt() % 2 == 0 ? 1800 : -1200),
+                                 randomRange(-1900, 1900)));
+        if (randomInt() % 8 == 0)
+            body->setPosition(Vector(512 + body->localVertices[2].x, body->pos.y));
+        if (randomInt() % 6 == 0)
+            body->angle = randomRange(-3, 3);
+        if (massive)
+            body->vel.set(randomRange(-900, 900), randomRange(-900, 900));
+        body->updateGeometry();
+        body->computeBounds();
+        plain.insert(world.spawnBody(std::move(body)));
+    }
+    void step() {
+        struct Moved {
+            Body* body;
+            bool goes;
+        };
+        std::vector<Moved> walk;
+        for (Body* body : world.activeBodies()) {
+            if (randomInt() % 10 == 0)
+                body->angle += 0.3F;
+            walk.push_back({body, body->cancleanup});
+        }
+        const World::DeferredDeletion deferred(world);
+        world.simulate(0.025F, -100);
+        for (const Moved& moved : walk) {
+            if (!moved.goes && !moved.body->isMassive())
+                continue;
+            plain.remove(moved.body);
+            if (!moved.goes)
+                plain.insert(moved.body);
+        }
+    }
+    void compareAll(const char* when) {
+        for (const Body* body : world.allBodies()) {
+            std::vector<Body*> fast;
+            std::vector<Body*> expected;
+            world.quadtree().queryCandidates(*body, fast);
+            plain.candidates(*body, expected);
+            ASSERT_EQ(fast, expected) << when;
+            found += expected.size();
+        }
+    }
+
+    World world;
+    PlainTree plain{0, 0, size, 2};
+    std::size_t found = 0;
+};
+
+TEST_P(CandidateOrderTest, StaysThatOfThePlainTreeWhileTheWorldChanges) {
+    for (int i = 0; i < 120; ++i)
         addRandom(false);
-    for (int i = 0; i < 250; ++i)
+    for (int i = 0; i < 500; ++i)
         addRandom(true);
     compareAll("at first");
     for (int round = 0; round < 12; ++round) {
-        for (int i = 0; i < 5; ++i)
-            world.simulate(0.025F, 0);
+        for (int i = 0; i < 4; ++i)
+            step();
         compareAll("after steps");
-        for (int i = 0; i < 6; ++i) {
-            addRandom(true);
+        for (int i = 0; i < 8; ++i) {
+            addRandom(randomInt() % 4 != 0);
             const auto victim = static_cast<std::size_t>(randomInt()) % world.allBodies().size();
             world.markForRemoval(world.allBodies()[victim]);
         }
-        world.simulate(0.025F, 0);
+        if (round == 5)
+            world.quadtree().renumber();
+        step();
         compareAll("after coming and going");
     }
+    EXPECT_GT(found, 20000U);
 }
 
-TEST(QuadTreeRules, SplitsAtTheTwentyFirstButNotForEntities) {
+INSTANTIATE_TEST_SUITE_P(Seeds, CandidateOrderTest, testing::Values(1U, 2U, 3U));
+
+/// Hundreds in one place, and bodies far larger than the rest.
+TEST(CandidateCrowd, IsFoundWhole) {
     World world;
-    QuadTree& tree = world.quadtree();
-    EXPECT_FALSE(tree.init(Vector(), 1000, -1));
-    ASSERT_TRUE(tree.init(Vector(), 1000, 0));
-    EXPECT_EQ(tree.nodeCount(), 1);
-    const auto add = [&](float x, bool entity) {
+    world.quadtree().init(Vector(), 4096, 2);
+    const auto add = [&](float x, float y, float w, float h) {
         auto body = std::make_unique<Body>();
-        body->makeBox(4, 4);
-        body->entity = entity;
-        body->setPosition(Vector(x, 100));
+        body->makeBox(w, h);
+        body->setPosition(Vector(x, y));
         body->updateGeometry();
         body->computeBounds();
         return world.spawnBody(std::move(body));
     };
-    for (int i = 0; i < 20; ++i)
-        add(static_cast<float>(-400 + i * 40), false);
-    EXPECT_EQ(tree.nodeCount(), 1);
-    add(5, true);
-    EXPECT_EQ(tree.nodeCount(), 1) << "an entity never splits";
-    add(15, false);
-    EXPECT_GE(tree.nodeCount(), 5);
-    ASSERT_TRUE(tree.init(Vector(), 1000, 2));
-    EXPECT_EQ(tree.nodeCount(), 21);
-}
-
-TEST(QuadTreeRules, AHundredOnOneSpotEnd) {
-    World world;
-    world.quadtree().init(Vector(), 1000, 2);
-    for (int i = 0; i < 100; ++i) {
-        auto body = std::make_unique<Body>();
-        body->makeBox(1, 1);
-        body->setPosition(Vector(100, 100));
-        body->updateGeometry();
-        body->computeBounds();
-        world.spawnBody(std::move(body));
+    std::vector<Body*> crowd;
+    crowd.reserve(300);
+    for (int i = 0; i < 300; ++i)
+        crowd.push_back(add(100, 100, 8, 8));
+    Body* beam = add(0, 100, 4000, 4);
+    const auto candidatesOf = [&](const Body& body) {
+        std::vector<Body*> found;
+        world.quadtree().queryCandidates(body, found, false);
+        return found.size();
+    };
+    EXPECT_EQ(candidatesOf(*crowd[0]), 300U);
+    EXPECT_EQ(candidatesOf(*beam), 300U);
+    for (std::size_t i = 0; i < 280; ++i) {
+        world.destroyBody(crowd[i * 37 % 300]);
+        if (i % 40 == 0) {
+            EXPECT_EQ(candidatesOf(*beam), 299 - i);
+        }
     }
-    EXPECT_LT(world.quadtree().nodeCount(), 200);
-    std::vector<Body*> near;
-    world.quadtree().queryRadius(Vector(100, 100), 1, near);
-    EXPECT_EQ(near.size(), 100U);
-}
-
-TEST(QuadTreeRules, ABodyOutsideIsRefused) {
-    World world;
-    world.quadtree().init(Vector(), 100, 2);
-    Body body;
-    body.makeBox(10, 10);
-    body.setPosition(Vector(48, 0));
-    body.updateGeometry();
-    body.computeBounds();
-    EXPECT_FALSE(world.quadtree().insert(body));
-    body.setPosition(Vector(45, 0));
-    body.updateGeometry();
-    body.computeBounds();
-    EXPECT_TRUE(world.quadtree().insert(body)) << "its edge lies on the border";
-}
-
-TEST(QuadTreeRules, TracesHitOutlinesAtTheirFirstCrossing) {
-    World world;
-    world.quadtree().init(Vector(), 1000, 2);
-    const auto add = [&](float x, bool solid) {
-        auto body = std::make_unique<Body>();
-        body->makeBox(20, 20);
-        body->mass = body->invMass = 0;
-        body->solid = solid;
-        body->setPosition(Vector(x, 3));
-        body->updateGeometry();
-        body->computeBounds();
-        return world.spawnBody(std::move(body));
-    };
-    Body* near = add(100, true);
-    Body* ghost = add(200, false);
-    Body* far = add(300, true);
-    TraceResults hits;
-    world.quadtree().trace(Ray(Vector(0, 0), Vector(400, 0)), hits);
-    sortByDistance(hits);
-    ASSERT_EQ(hits.size(), 2U);
-    EXPECT_EQ(hits[0].body, near);
-    EXPECT_FLOAT_EQ(hits[0].t, 0.225F);
-    EXPECT_FLOAT_EQ(hits[0].distance, 90);
-    EXPECT_EQ(hits[1].body, far);
-    hits.clear();
-    world.quadtree().trace(Ray(Vector(200, 0), Vector(200, 200)), hits, true);
-    ASSERT_EQ(hits.size(), 1U);
-    EXPECT_EQ(hits[0].body, ghost) << "from inside the line meets the far edge";
-    EXPECT_FLOAT_EQ(hits[0].point.y, 13);
+    Body outside;
+    outside.makeBox(9000, 10);
+    outside.setPosition(Vector(0, 100));
+    outside.updateGeometry();
+    outside.computeBounds();
+    ASSERT_FALSE(world.quadtree().insert(outside));
+    EXPECT_EQ(candidatesOf(outside), 21U) << "what is outside still asks";
 }
 
 }  // namespace
