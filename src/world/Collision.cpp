@@ -115,9 +115,10 @@ class AxisSearch {
         if (t > -0.1F && t < 1e-6F)
             return false;
         hit.t = t;
-        hit.normal = Vector(x_ / length_, y_ / length_);
-        if (hit.normal.x * offsetX_ + hit.normal.y * offsetY_ < 0)
-            hit.normal = Vector(-hit.normal.x, -hit.normal.y);
+        const bool turned = x_ * offsetX_ + y_ * offsetY_ < 0;
+        const float length = turned ? -length_ : length_;
+        // Adding zero makes a plain zero of a negative one, which would look odd in text.
+        hit.normal = Vector(x_ / length + 0.0F, y_ / length + 0.0F);
         return true;
     }
 
