@@ -136,10 +136,7 @@ void VarRegistry::loadDeclarations(const std::string& path) {
         logLine("Could not load gamevars file: " + path);
         return;
     }
-    const TiXmlElement* root = document.RootElement();
-    if (root == nullptr)
-        return;
-    for (const TiXmlElement* e = root->FirstChildElement(); e != nullptr;
+    for (const TiXmlElement* e = document.RootElement()->FirstChildElement(); e != nullptr;
          e = e->NextSiblingElement()) {
         GameVar* var = createOrSet(xml::readString(*e, "name"), xml::readString(*e, "value"),
                                    xml::readString(*e, "description"));

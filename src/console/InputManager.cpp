@@ -40,10 +40,7 @@ void InputManager::loadKeymap(const std::string& path) {
         logLine("Could not load keymap file: " + path);
         return;
     }
-    const TiXmlElement* root = document.RootElement();
-    if (root == nullptr)
-        return;
-    for (const TiXmlElement* e = root->FirstChildElement(); e != nullptr;
+    for (const TiXmlElement* e = document.RootElement()->FirstChildElement(); e != nullptr;
          e = e->NextSiblingElement())
         keyNames_[xml::readInt(*e, "sdlcode")] = xml::readString(*e, "keyname");
 }

@@ -115,7 +115,7 @@ void ParticleManager::addDefinition(ParticleSystemParams definition) {
 
 void ParticleManager::loadDefinitions(const std::string& fileName) {
     TiXmlDocument document;
-    if (!resourceManager().loadXML(document, fileName) || document.RootElement() == nullptr) {
+    if (!resourceManager().loadXML(document, fileName)) {
         logLine("Could not load particle defs file: " + fileName);
         return;
     }

@@ -84,8 +84,9 @@ bool ResourceManager::loadXML(TiXmlDocument& document, const std::string& name) 
     }
     document.Parse(bytes.get(), nullptr,
                    isUtf8(text) ? TIXML_DEFAULT_ENCODING : TIXML_ENCODING_LEGACY);
-    if (document.Error()) {
-        logLine("Failed to parse: " + name + " Error: " + document.ErrorDesc());
+    if (document.Error() || document.RootElement() == nullptr) {
+        logLine("Failed to parse: " + name +
+                " Error: " + (document.Error() ? document.ErrorDesc() : "no root element"));
         return false;
     }
     return true;

@@ -29,7 +29,8 @@ class ResourceManager {
     bool addZip(const std::string& name);
     /// size bytes and one zero byte behind them. size is written only when something was found.
     std::unique_ptr<char[]> getBytes(const std::string& name, std::size_t& size, bool& error);
-    /// Texts with NUL bytes or nested deeper than 256 elements are refused before they are parsed.
+    /// A document that was loaded has a root element. Texts with NUL bytes or nested deeper than
+    /// 256 elements are refused before they are parsed.
     bool loadXML(TiXmlDocument& document, const std::string& name);
     /// Empty on failure.
     std::string loadText(const std::string& name);

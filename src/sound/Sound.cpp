@@ -237,7 +237,7 @@ void Sound::registerSound(int id, int channel, int volume, bool positional,
 
 void Sound::loadSoundDefs(const std::string& path) {
     TiXmlDocument document;
-    if (!resourceManager().loadXML(document, path) || !document.RootElement()) {
+    if (!resourceManager().loadXML(document, path)) {
         logLine("Could not load sound defs file: " + path);
         return;
     }

@@ -103,7 +103,7 @@ std::optional<LevelBodies> readLevel(BodyCreator& factory, std::string_view name
                                      bool skipEntities) {
     const std::string path = levelPath(name);
     TiXmlDocument document;
-    if (!resourceManager().loadXML(document, path) || document.RootElement() == nullptr) {
+    if (!resourceManager().loadXML(document, path)) {
         logLine("Could not load level file: " + path);
         return std::nullopt;
     }

@@ -198,7 +198,8 @@ TEST_F(ResourceManagerTest, BadXmlIsRefusedWithAReason) {
         deep += "<a>";
     for (const std::string& text :
          {std::string("<r><unclosed></r>"), deep, std::string("<r>\0</r>", 8), std::string("text"),
-          std::string("<r a=\"open"), std::string("<r")}) {
+          std::string("<r a=\"open"), std::string("<r"), std::string("<!-- no element -->"),
+          std::string("<?xml version=\"1.0\"?>")}) {
         put(user() + "/bad.xml", text);
         TiXmlDocument document;
         EXPECT_THAT(logOf([&] { EXPECT_FALSE(manager.loadXML(document, "bad.xml")); }),
