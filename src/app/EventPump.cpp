@@ -11,9 +11,11 @@ namespace bc {
 
 namespace {
 
-/// The character that a key of the given code types without modifiers, as the window system
-/// would report it.
-int characterOf(int sym) {
+constexpr int shiftKeys = KMOD_LSHIFT | KMOD_RSHIFT;
+
+/// The character that a key of the given code types, as the window system would report it. Shift
+/// counts for letters; what it makes of other keys depends on the keyboard.
+int characterOf(int sym, int modifiers) {
     switch (sym) {
         case SDLK_RETURN:
         case SDLK_KP_ENTER:
@@ -23,7 +25,42 @@ int characterOf(int sym) {
         case SDLK_ESCAPE:
             return sym;
         default:
-            return sym >= 32 && sym < 127 ? sym : 0;
+            break;
+    }
+    const bool capital = ((modifiers & shiftKeys) != 0) != ((modifiers & KMOD_CAPS) != 0);
+    if (sym >= 'a' && sym <= 'z' && capital)
+        return sym - 'a' + 'A';
+    return sym >= 32 && sym < 127 ? sym : 0;
+}
+
+/// The modifier that a key is while it is down, 0 for most keys.
+int modifierOf(int sym) {
+    switch (sym) {
+        case SDLK_LSHIFT:
+            return KMOD_LSHIFT;
+        case SDLK_RSHIFT:
+            return KMOD_RSHIFT;
+        case SDLK_LCTRL:
+            return KMOD_LCTRL;
+        case SDLK_RCTRL:
+            return KMOD_RCTRL;
+        case SDLK_LALT:
+            return KMOD_LALT;
+        case SDLK_RALT:
+            return KMOD_RALT;
+        case SDLK_LMETA:
+            return KMOD_LMETA;
+        case SDLK_RMETA:
+            return KMOD_RMETA;
+        // The locks are reported as held for as long as they are on.
+        case SDLK_NUMLOCK:
+            return KMOD_NUM;
+        case SDLK_CAPSLOCK:
+            return KMOD_CAPS;
+        case SDLK_MODE:
+            return KMOD_MODE;
+        default:
+            return 0;
     }
 }
 
@@ -58,12 +95,24 @@ bool EventPump::poll(SDL_Event& event) {
 }
 
 void EventPump::pushKey(bool pressed, int sym, int unicode) {
+    modifiers_ = pressed ? modifiers_ | modifierOf(sym) : modifiers_ & ~modifierOf(sym);
     SDL_Event event{};
     event.type = static_cast<Uint8>(pressed ? SDL_KEYDOWN : SDL_KEYUP);
     event.key.state = static_cast<Uint8>(pressed ? SDL_PRESSED : SDL_RELEASED);
     event.key.keysym.sym = static_cast<SDLKey>(sym);
+    event.key.keysym.mod = static_cast<SDLMod>(modifiers_);
     event.key.keysym.unicode = static_cast<Uint16>(unicode);
     injected_.push_back(event);
+}
+
+void EventPump::typeCharacter(unsigned char c) {
+    // Text boxes ask for shift, not for the character.
+    const int before = modifiers_;
+    if (c >= 'A' && c <= 'Z')
+        modifiers_ |= KMOD_LSHIFT;
+    pushKey(true, symOfCharacter(c), c);
+    pushKey(false, symOfCharacter(c), 0);
+    modifiers_ = before;
 }
 
 void EventPump::pushButton(bool pressed, int button) {
@@ -97,18 +146,15 @@ bool EventPump::inject(const std::string& line,
     const std::string& kind = words[0];
     if (kind == "@type") {
         const std::string text = restBehind(line, kind.size());
-        for (const char c : text) {
-            const auto byte = static_cast<unsigned char>(c);
-            pushKey(true, symOfCharacter(byte), byte);
-            pushKey(false, symOfCharacter(byte), 0);
-        }
+        for (const char c : text)
+            typeCharacter(static_cast<unsigned char>(c));
         return !text.empty();
     }
     if ((kind == "@key" || kind == "@keyup") && words.size() == 2) {
         const int sym = symOf(words[1]);
         if (sym < 0)
             return false;
-        pushKey(kind == "@key", sym, kind == "@key" ? characterOf(sym) : 0);
+        pushKey(kind == "@key", sym, kind == "@key" ? characterOf(sym, modifiers_) : 0);
         return true;
     }
     if (kind == "@move" && words.size() == 3) {

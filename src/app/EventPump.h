@@ -26,11 +26,15 @@ class EventPump {
 
   private:
     void pushKey(bool pressed, int sym, int unicode);
+    /// Down and up, with shift held for a capital letter.
+    void typeCharacter(unsigned char c);
     void pushButton(bool pressed, int button);
     void pushMotion(int x, int y);
 
     bool hasWindow_;
     std::deque<SDL_Event> injected_;
+    /// SDL's mask of the modifier keys that injected events hold down.
+    int modifiers_ = 0;
     int mouseX_ = 0;
     int mouseY_ = 0;
 };

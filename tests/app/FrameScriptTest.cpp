@@ -47,8 +47,9 @@ TEST(FrameScript, ABadLineIsNamedAndNothingRuns) {
 class EventPumpTest : public testing::Test {
   protected:
     bool inject(const std::string& line) {
-        return pump.inject(line,
-                           [](const std::string& name) { return name == "RETURN" ? 13 : -1; });
+        return pump.inject(line, [](const std::string& name) {
+            return name == "RETURN" ? 13 : name == "RSHIFT" ? SDLK_RSHIFT : name == "B" ? 'b' : -1;
+        });
     }
     SDL_Event next() {
         SDL_Event event{};
@@ -76,9 +77,23 @@ TEST_F(EventPumpTest, KeysComeWithTheirCharacters) {
         EXPECT_EQ(e.type, SDL_KEYDOWN);
         EXPECT_EQ(e.key.keysym.unicode, c);
         EXPECT_EQ(e.key.keysym.sym, c == 'A' ? 'a' : c);
+        EXPECT_EQ(e.key.keysym.mod, c == 'A' ? KMOD_LSHIFT : KMOD_NONE);
         EXPECT_EQ(next().type, SDL_KEYUP);
     }
     EXPECT_TRUE(empty());
+}
+
+TEST_F(EventPumpTest, AModifierCountsUntilItIsReleased) {
+    for (const char* line : {"@key RSHIFT", "@key B", "@keyup RSHIFT", "@key B"})
+        ASSERT_TRUE(inject(line));
+    EXPECT_EQ(next().key.keysym.mod, KMOD_RSHIFT);
+    SDL_Event e = next();
+    EXPECT_EQ(e.key.keysym.mod, KMOD_RSHIFT);
+    EXPECT_EQ(e.key.keysym.unicode, 'B');
+    EXPECT_EQ(next().key.keysym.mod, KMOD_NONE);
+    e = next();
+    EXPECT_EQ(e.key.keysym.mod, KMOD_NONE);
+    EXPECT_EQ(e.key.keysym.unicode, 'b');
 }
 
 TEST_F(EventPumpTest, MotionIsRelativeToTheLastPlace) {
