@@ -179,10 +179,7 @@ void Game::updateWorld() {
             gameplay_->beforeUpdate();
         if (gameplay_)
             gameplay_->update(simulationStep);
-        world_.applyGravity(simulationStep, vars_->gravity->floatValue());
-        world_.freezeVelocities();
-        world_.interactBodies(simulationStep);
-        world_.moveBodies(simulationStep);
+        world_.simulate(simulationStep, vars_->gravity->floatValue());
         if (gameplay_)
             gameplay_->afterUpdate();
         stepAccumulator_ -= simulationStep;
