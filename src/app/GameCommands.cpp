@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // The application's own console commands and variables, and the configuration scripts.
+#include "app/CommandFile.h"
 #include "app/Game.h"
 #include "app/GameDumps.h"
 #include "app/GameHandles.h"
@@ -81,7 +82,7 @@ void Game::registerSystemCommands() {
     c.registerCommand("dump texture cache info to file", "dumptextures", [this] {
         std::ostringstream text;
         renderer_->dumpTextures(text);
-        files::replace(commands().arg(0, "texturecachedump.txt"), text.str());
+        writeCommandFile(commands().arg(0, "texturecachedump.txt"), text.str());
     });
     const bool window = !options_.headless;
     c.registerCommand("lock mouse in frame", "lockmouse", [window] {
@@ -111,6 +112,8 @@ void Game::registerSystemCommands() {
         const std::string path = commands().arg(0, "data/config.txt");
         if (writeConfig(path, !named))
             consolePrint("Wrote keybinds and variables to " + path);
+        else
+            reportUnwritable(path);
     });
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/GameDumps.h"
 
+#include "app/CommandFile.h"
 #include "app/Game.h"
 #include "app/GameHandles.h"
 #include "console/CommandRegistry.h"
@@ -25,7 +26,9 @@
 
 #include <tinyxml.h>
 
+#include <cmath>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 namespace bc {
@@ -39,13 +42,13 @@ TiXmlElement& child(TiXmlElement& parent, const char* name) {
 void writeDocument(const std::string& file, const TiXmlDocument& document) {
     TiXmlPrinter printer;
     document.Accept(&printer);
-    files::replace(file, printer.CStr());
+    writeCommandFile(file, printer.CStr());
 }
 
 /// Lines of a report: to the console and the log, or to the file of the given name.
 void report(const std::string& lines, const std::string& file) {
     if (!file.empty()) {
-        files::replace(file, lines);
+        writeCommandFile(file, lines);
         return;
     }
     std::istringstream in(lines);
@@ -57,6 +60,16 @@ void report(const std::string& lines, const std::string& file) {
 
 std::string nameOf(const Body& body) {
     return std::to_string(body.autoid) + ' ' + body.type + ' ' + body.id;
+}
+
+/// A place of the world as a person types it.
+std::optional<Vector> readPlace(const std::string& text) {
+    float v[2];
+    if (parseFloats(text, ",", v, 2) < 2)
+        return std::nullopt;
+    const bool isFar =
+        std::fabs(v[0]) > Body::maxCoordinate || std::fabs(v[1]) > Body::maxCoordinate;
+    return isFar ? std::nullopt : std::optional(Vector(v[0], v[1]));
 }
 
 std::string boxText(const Vector& v) {
@@ -209,11 +222,11 @@ void GameDumps::writeRenderer(TiXmlElement& root) const {
 
 void GameDumps::dumpFrame(const std::string& file) {
     const auto path = files::writable(file);
-    if (!path)
-        return;
-    auto out = std::make_unique<std::ofstream>(*path, std::ios::binary | std::ios::trunc);
-    if (!*out) {
-        consolePrint("Can't write: " + file);
+    auto out = std::make_unique<std::ofstream>();
+    if (path)
+        out->open(*path, std::ios::binary | std::ios::trunc);
+    if (!out->is_open()) {
+        reportUnwritable(file);
         return;
     }
     game_.renderer_->dumpNextFrame(std::move(out));
@@ -223,17 +236,18 @@ void GameDumps::dumpQuadTree(const std::string& file) {
     std::ostringstream text;
     text.imbue(std::locale::classic());
     game_.world_.quadtree().dump(text);
-    files::replace(file, text.str());
+    writeCommandFile(file, text.str());
 }
 
 void GameDumps::trace() {
-    if (commands().argCount() < 2) {
+    const std::optional<Vector> from = readPlace(commands().arg(0));
+    const std::optional<Vector> to = readPlace(commands().arg(1));
+    if (!from || !to) {
         consolePrint("Usage: trace x,y x,y [file]");
         return;
     }
     TraceResults hits;
-    game_.world_.quadtree().trace(Ray(Vector(commands().arg(0)), Vector(commands().arg(1))), hits,
-                                  true);
+    game_.world_.quadtree().trace(Ray(*from, *to), hits, true);
     std::string text;
     for (const TraceResult& hit : hits)
         text += formatFloat(hit.t) + ' ' + formatFloat(hit.distance) + ' ' + nameOf(*hit.body) +
