@@ -48,6 +48,7 @@ class Game final : public IGame {
     /// Builds what lies over the world once everything is up, shows the logos and runs until a
     /// quit is requested.
     void run();
+    /// Writes the configuration and releases everything.
     void shutdown();
     void closeDown();
     void runFrame();
@@ -132,6 +133,8 @@ class Game final : public IGame {
     void initVideoMode();
     void writeRunBanner();
     void loadScript();
+    void runStartCommands();
+    void release();
     void pumpEvents();
     void runScriptLine(const std::string& line);
     void runFramePaused();

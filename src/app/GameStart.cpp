@@ -32,6 +32,7 @@
 
 #include <SDL/SDL.h>
 
+#include <array>
 #include <cstdio>
 
 namespace bc {
@@ -42,9 +43,27 @@ constexpr const char* firstLevel = "hangar";
 // The player's box in world units, and its mass.
 constexpr float playerSize = 16;
 constexpr float playerMass = 100;
+constexpr std::size_t maxScriptSize = 64U << 20;
 
 bool startsAMap(const std::string& command) {
     return command == "map" || command.rfind("map ", 0) == 0 || command.rfind("loadgame", 0) == 0;
+}
+
+/// Named on the command line by the person who runs the game: any path will do, also a pipe's.
+bool readScript(const std::string& path, std::string& text) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (file == nullptr)
+        return false;
+    std::array<char, 4096> chunk{};
+    while (text.size() <= maxScriptSize) {
+        const std::size_t n = std::fread(chunk.data(), 1, chunk.size(), file);
+        if (n == 0)
+            break;
+        text.append(chunk.data(), n);
+    }
+    const bool whole = std::ferror(file) == 0 && text.size() <= maxScriptSize;
+    std::fclose(file);
+    return whole;
 }
 
 }  // namespace
@@ -72,8 +91,12 @@ Game::Game(Options options)
 }
 
 Game::~Game() {
-    if (!shutDown_)
-        shutdown();
+    // A start that failed must not overwrite the settings: they may not even have been read.
+    if (shutDown_)
+        return;
+    release();
+    if (!options_.headless)
+        SDL_Quit();
 }
 
 ISound* Game::getSound() {
@@ -227,15 +250,8 @@ void Game::loadScript() {
         return;
     std::string text;
     std::string error = "cannot be read";
-    // Named on the command line by the person who runs the game: any path will do.
-    if (std::FILE* file = std::fopen(options_.scriptFile.c_str(), "rb")) {
-        char chunk[4096];
-        while (const std::size_t n = std::fread(chunk, 1, sizeof chunk, file))
-            text.append(chunk, n);
-        std::fclose(file);
-        if (script_.parse(text, error))
-            return;
-    }
+    if (readScript(options_.scriptFile, text) && script_.parse(text, error))
+        return;
     const std::string message = "Script " + options_.scriptFile + ": " + error;
     logLine(message);
     std::fprintf(stderr, "brightclash: %s\n", message.c_str());
@@ -246,13 +262,8 @@ void Game::run() {
     loadScript();
     if (!options_.skipLogo)
         GameLogoScene(*this).run();
-    bool mapGiven = false;
-    for (const std::string& command : options_.commands) {
-        mapGiven = mapGiven || startsAMap(command);
-        commands().execute(command);
-    }
-    if (!mapGiven)
-        commands().execute(std::string("map ") + firstLevel);
+    if (!quitRequested_)
+        runStartCommands();
     for (pass_ = 0; !quitRequested_; ++pass_) {
         if (options_.frames && pass_ >= *options_.frames)
             break;
@@ -262,6 +273,16 @@ void Game::run() {
         if (!quitRequested_)
             runFrame();
     }
+}
+
+void Game::runStartCommands() {
+    bool mapGiven = false;
+    for (const std::string& command : options_.commands) {
+        mapGiven = mapGiven || startsAMap(command);
+        commands().execute(command);
+    }
+    if (!mapGiven)
+        commands().execute(std::string("map ") + firstLevel);
 }
 
 void Game::setGameplay(std::unique_ptr<IGameplay> gameplay) {
@@ -296,13 +317,16 @@ void Game::setPlayer(Body* player) {
 }
 
 void Game::shutdown() {
+    writeConfig("data/config.txt", true);
+    release();
+}
+
+void Game::release() {
     // Bodies look at the controller while they go, so they go first.
     skyManager_.unloadAll();
     world_.deleteBodies();
     world_.clear();
     deleteGameplay();
-    if (gameInput_)
-        writeConfig("data/config.txt", true);
     sound_->shutdown();
     commands().setOutput(nullptr);
     gui_.reset();

@@ -52,6 +52,17 @@ TEST(Program, SaysItsOptionsAndRefusesOthers) {
     EXPECT_NE(game.standardError().find("data"), std::string::npos);
 }
 
+TEST(Program, AStartThatFailsLeavesTheSettings) {
+    RunGame game;
+    game.data = game.folder();
+    game.write("data/gamevars.xml", "<gamevars/>");
+    game.write("data/config.txt", "bind k pause\n");
+    EXPECT_EQ(game.headless({"--frames", "1"}), 0);
+    EXPECT_NE(game.log().find("Error Initialising font renderer"), std::string::npos);
+    EXPECT_NE(game.standardError().find("fonts"), std::string::npos);
+    EXPECT_EQ(game.read("data/config.txt"), "bind k pause\n");
+}
+
 TEST(Program, RunsALevelAndWritesWhatItIsAsked) {
     RunGame game;
     EXPECT_EQ(game.headless({"--frames", "400", "+map", "hangar", "+playerinfo"}), 0)
