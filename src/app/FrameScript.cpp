@@ -3,12 +3,16 @@
 #include "app/FrameScript.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstdio>
 #include <string_view>
 
 namespace bc {
 
 namespace {
+
+constexpr std::size_t maxScriptSize = 64U << 20;
 
 std::string_view trimmed(std::string_view s) {
     const std::size_t begin = s.find_first_not_of(" \t\r");
@@ -17,7 +21,32 @@ std::string_view trimmed(std::string_view s) {
     return s.substr(begin, s.find_last_not_of(" \t\r") - begin + 1);
 }
 
+/// Whole contents of a file, or of a pipe. False for a folder and what is too long.
+bool readScript(const std::string& path, std::string& text) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (file == nullptr)
+        return false;
+    std::array<char, 4096> chunk{};
+    while (text.size() <= maxScriptSize) {
+        const std::size_t n = std::fread(chunk.data(), 1, chunk.size(), file);
+        if (n == 0)
+            break;
+        text.append(chunk.data(), n);
+    }
+    const bool whole = std::ferror(file) == 0 && text.size() <= maxScriptSize;
+    std::fclose(file);
+    return whole;
+}
+
 }  // namespace
+
+bool FrameScript::load(const std::string& path, std::string& error) {
+    std::string text;
+    if (readScript(path, text))
+        return parse(text, error);
+    error = "cannot be read";
+    return false;
+}
 
 bool FrameScript::parse(const std::string& text, std::string& error) {
     std::vector<Line> lines;

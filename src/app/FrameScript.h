@@ -13,6 +13,9 @@ namespace bc {
 /// Lines "FRAME TEXT" that are run at the start of that pass of the main loop, in file order.
 class FrameScript {
   public:
+    /// Parses a file or a pipe of any folder: it is named by the person who starts the game.
+    /// On failure as parse.
+    bool load(const std::string& path, std::string& error);
     /// Reads the whole text. On a line that does not begin with a frame number the script stays
     /// empty, error names the line, and the result is false. '#' starts a comment.
     bool parse(const std::string& text, std::string& error);

@@ -32,7 +32,6 @@
 
 #include <SDL/SDL.h>
 
-#include <array>
 #include <cstdio>
 
 namespace bc {
@@ -43,27 +42,9 @@ constexpr const char* firstLevel = "hangar";
 // The player's box in world units, and its mass.
 constexpr float playerSize = 16;
 constexpr float playerMass = 100;
-constexpr std::size_t maxScriptSize = 64U << 20;
 
 bool startsAMap(const std::string& command) {
     return command == "map" || command.rfind("map ", 0) == 0 || command.rfind("loadgame", 0) == 0;
-}
-
-/// Named on the command line by the person who runs the game: any path will do, also a pipe's.
-bool readScript(const std::string& path, std::string& text) {
-    std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (file == nullptr)
-        return false;
-    std::array<char, 4096> chunk{};
-    while (text.size() <= maxScriptSize) {
-        const std::size_t n = std::fread(chunk.data(), 1, chunk.size(), file);
-        if (n == 0)
-            break;
-        text.append(chunk.data(), n);
-    }
-    const bool whole = std::ferror(file) == 0 && text.size() <= maxScriptSize;
-    std::fclose(file);
-    return whole;
 }
 
 }  // namespace
@@ -248,9 +229,8 @@ void Game::writeRunBanner() {
 void Game::loadScript() {
     if (options_.scriptFile.empty())
         return;
-    std::string text;
-    std::string error = "cannot be read";
-    if (readScript(options_.scriptFile, text) && script_.parse(text, error))
+    std::string error;
+    if (script_.load(options_.scriptFile, error))
         return;
     const std::string message = "Script " + options_.scriptFile + ": " + error;
     logLine(message);
