@@ -71,6 +71,9 @@ void Game::saveGame() {
     if (!gui_->isVisible())
         renderer_->grabThumbnail();
     renderer_->saveThumbnail(savePath(saveName_, ".png"), thumbnailWidth, thumbnailHeight);
+    // The clocks of a paused game stand; going on takes the whole pause out of them.
+    if (paused_)
+        return;
     tickClock();
     gameplay_->tickClock();
 }

@@ -197,7 +197,7 @@ TEST(Program, ABadLevelLeavesTheRunningOne) {
 TEST(Program, PauseStopsTheLevelClock) {
     RunGame game;
     game.script(
-        "0 map hangar\n40 pause\n41 dumpworld a.xml\n80 dumpworld b.xml\n80 pause\n"
+        "0 map hangar\n40 pause\n41 dumpworld a.xml\n60 savegame\n80 dumpworld b.xml\n80 pause\n"
         "90 dumpworld c.xml\n");
     ASSERT_EQ(game.headless({"--frames", "92"}), 0);
     const auto time = [&](const char* file) {
