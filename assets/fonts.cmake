@@ -20,5 +20,8 @@ brightclash_font(vera_12 ${DEJAVU_SANS} 12)
 brightclash_font(verabd_14 ${DEJAVU_SANS_BOLD} 14)
 brightclash_font(verabd_18 ${DEJAVU_SANS_BOLD} 18)
 brightclash_font(verabd_24 ${DEJAVU_SANS_BOLD} 24)
+# Doubled, for the texts of large windows.
+brightclash_font(verabd_28 ${DEJAVU_SANS_BOLD} 28)
+brightclash_font(verabd_36 ${DEJAVU_SANS_BOLD} 36)
 add_custom_target(game_fonts DEPENDS ${fonts})
 add_dependencies(game_data game_fonts)

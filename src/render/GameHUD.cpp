@@ -180,12 +180,11 @@ float GameHUD::designWidth(const TextHudItem& item, std::string_view text) const
     FontRenderer* fonts = renderer_ ? renderer_->getFontRenderer() : nullptr;
     if (!fonts)
         return 0;
-    fonts->setFont(item.fontName(), item.fontSize());
-    return fonts->textWidth(text) * canvasWidth / static_cast<float>(windowWidth());
+    return item.widthOf(*fonts, text) * canvasWidth / static_cast<float>(windowWidth());
 }
 
 float GameHUD::designHeight(const TextHudItem& item) const {
-    return static_cast<float>(item.fontSize() * canvasWidth) / static_cast<float>(windowWidth());
+    return static_cast<float>(item.lineHeight() * canvasWidth) / static_cast<float>(windowWidth());
 }
 
 void GameHUD::setUpgradeScreenShown(bool shown) {

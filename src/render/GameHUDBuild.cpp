@@ -124,6 +124,7 @@ void GameHUD::buildWeaponPanel() {
     message1_->visible = false;
     message2_ = make<TextHudItem>("message 2");
     setUpText(*message2_, 0, 0, 18, red, false);
+    message2_->plate = true;
     message2_->visible = false;
 }
 
@@ -178,9 +179,9 @@ void GameHUD::buildUpgradeScreen() {
 void GameHUD::onResize() {
     if (!upgradeBackground_)
         return;
-    // Letters keep their height in pixels, so that of a line in design units follows the window.
+    // Letters grow by whole steps, so the height of a line in design units follows the window.
     const auto lineHeight = [this](const TextHudItem& item) {
-        return static_cast<float>(item.fontSize() * canvasHeight) /
+        return static_cast<float>(item.lineHeight() * canvasHeight) /
                static_cast<float>(windowHeight());
     };
     constexpr int textX = 200;

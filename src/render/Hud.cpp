@@ -18,6 +18,13 @@ int scaled(int design, int window, int canvas) {
 
 }  // namespace
 
+int Hud::textScale() const {
+    // Nine tenths of the room are enough for the next larger letters.
+    constexpr int enoughWidth = canvasWidth * 9 / 10;
+    constexpr int enoughHeight = canvasHeight * 9 / 10;
+    return std::max(std::min(windowWidth_ / enoughWidth, windowHeight_ / enoughHeight), 1);
+}
+
 int Hud::toPixelsX(int x) const {
     return scaled(x, windowWidth_, canvasWidth);
 }
@@ -29,6 +36,8 @@ int Hud::toPixelsY(int y) const {
 void Hud::resize(int width, int height) {
     windowWidth_ = std::max(width, 1);
     windowHeight_ = std::max(height, 1);
+    for (const auto& item : items_)
+        item->setTextScale(textScale());
     onResize();
     for (const auto& item : items_) {
         const HudItem::Box& box = item->design();
@@ -47,6 +56,7 @@ void Hud::draw(IRenderer& renderer, float dt) {
 }
 
 void Hud::addItem(std::unique_ptr<HudItem> item) {
+    item->setTextScale(textScale());
     items_.push_back(std::move(item));
 }
 

@@ -37,6 +37,9 @@ class Hud {
     [[nodiscard]] const std::vector<std::unique_ptr<HudItem>>& items() const { return items_; }
     [[nodiscard]] int windowWidth() const { return windowWidth_; }
     [[nodiscard]] int windowHeight() const { return windowHeight_; }
+    /// How many times letters fit into the window that fit into the canvas once: a whole number,
+    /// so that they stay sharp.
+    [[nodiscard]] int textScale() const;
 
   protected:
     /// Called by resize after the new window size is known and before items are scaled.

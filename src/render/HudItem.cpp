@@ -10,6 +10,14 @@
 
 namespace bc {
 
+namespace {
+
+/// Pixels that stay free between a text and the right edge of the window.
+constexpr float edge = 4;
+constexpr int plateAlpha = 150;
+
+}  // namespace
+
 void HudItem::setSize(int width, int height) {
     design_.width = width;
     design_.height = height;
@@ -45,23 +53,59 @@ void TextHudItem::setFont(std::string_view name, int size) {
     fontSize_ = size;
 }
 
+// Most fonts come doubled as well; what is larger than there is a font for is drawn enlarged.
+void TextHudItem::chooseFont(FontRenderer& fonts) const {
+    fonts.setFont(fontName_, fontSize_);
+    fonts.setScale(static_cast<float>(textScale()));
+    if (textScale() < 2)
+        return;
+    const int doubled = fontSize_ * 2;
+    fonts.setFont(fontName_, doubled);
+    if (fonts.textHeight("") == static_cast<float>(doubled))
+        fonts.setScale(static_cast<float>(textScale()) / 2);
+}
+
+float TextHudItem::widthOf(FontRenderer& fonts, std::string_view text) const {
+    const float scale = fonts.getScale();
+    chooseFont(fonts);
+    const float width = fonts.textWidth(text) * fonts.getScale();
+    fonts.setScale(scale);
+    return width;
+}
+
+void TextHudItem::drawPlate(IRenderer& renderer, float x, float y, float width) const {
+    const auto line = static_cast<float>(lineHeight());
+    const float side = line / 2;
+    renderer.setTexturing(false);
+    renderer.setBlending(true);
+    renderer.setAlphaBlend();
+    renderer.setColour(0, 0, 0, plateAlpha);
+    // Letters reach below their line as well.
+    renderer.drawQuad(x - side, y + line * 1.15F, 0, width + 2 * side, line * 1.7F);
+}
+
 void TextHudItem::draw(IRenderer& renderer, float) {
     FontRenderer* fonts = renderer.getFontRenderer();
     if (!fonts)
         return;
-    renderer.setTexturing(true);
-    renderer.setColour(colour());
-    fonts->setFont(fontName_, fontSize_);
     auto x = static_cast<float>(pixels().x);
     const auto y = static_cast<float>(pixels().y);
-    // Letters keep their size in small windows, where a long line would be cut off at the right.
-    const float beyond = x + fonts->textWidth(text_) - static_cast<float>(renderer.getWidth());
+    const float width = widthOf(*fonts, text_);
+    // A long line would be cut off at the right of a small window.
+    const float beyond = x + width + edge - static_cast<float>(renderer.getWidth());
     if (beyond > 0)
         x = std::max(x - beyond, 0.0F);
+    if (plate)
+        drawPlate(renderer, x, y, width);
+    renderer.setTexturing(true);
+    renderer.setColour(colour());
+    const float scale = fonts->getScale();
+    chooseFont(*fonts);
     if (shadow)
         fonts->drawShadowText(x, y, text_);
     else
         fonts->drawText(x, y, text_);
+    fonts->setScale(scale);
 }
 
 void TextHudItem::dump(TiXmlElement& element) const {

@@ -11,6 +11,7 @@ class TiXmlElement;
 
 namespace bc {
 
+class FontRenderer;
 class IRenderer;
 
 /// Something a Hud draws: a place and size on the design canvas (640 x 480, origin bottom left)
@@ -44,6 +45,9 @@ class HudItem {
     void setPixelSize(int width, int height);
     void setPixelPosition(int x, int y);
     [[nodiscard]] const Box& pixels() const { return pixels_; }
+    /// How many times their font's size letters are drawn.
+    void setTextScale(int scale) { textScale_ = scale; }
+    [[nodiscard]] int textScale() const { return textScale_; }
 
     void setColour(const RGBAColour& colour) { colour_ = colour; }
     void setColour(float r, float g, float b, float a) { colour_.set(r, g, b, a); }
@@ -55,6 +59,7 @@ class HudItem {
     std::string label_;
     Box design_;
     Box pixels_;
+    int textScale_ = 1;
     RGBAColour colour_;
 };
 
@@ -69,15 +74,23 @@ class TextHudItem : public HudItem {
 
     void setText(std::string_view text) { text_.assign(text); }
     [[nodiscard]] const std::string& text() const { return text_; }
-    /// Size in pixels of the window, whatever the window's size.
+    /// Size in pixels, to be multiplied by the text scale.
     void setFont(std::string_view name, int size);
     [[nodiscard]] const std::string& fontName() const { return fontName_; }
     [[nodiscard]] int fontSize() const { return fontSize_; }
+    // Window pixels.
+    [[nodiscard]] float widthOf(FontRenderer& fonts, std::string_view text) const;
+    [[nodiscard]] int lineHeight() const { return fontSize_ * textScale(); }
 
     /// White over black, without regard to the item's colour.
     bool shadow = false;
+    /// Darkens what lies behind the letters, for a colour that does not stand out by itself.
+    bool plate = false;
 
   private:
+    void chooseFont(FontRenderer& fonts) const;
+    void drawPlate(IRenderer& renderer, float x, float y, float width) const;
+
     int fontSize_ = 12;
     std::string fontName_ = "vera";
     std::string text_;

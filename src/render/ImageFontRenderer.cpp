@@ -29,6 +29,11 @@ constexpr std::array<FontFile, 4> gameFonts{{
     {"verabd_18.xml", "vera", 18},
     {"verabd_24.xml", "vera", 24},
 }};
+/// Sharper in large windows than the others enlarged; the game does without them.
+constexpr std::array<FontFile, 2> largeFonts{{
+    {"verabd_28.xml", "vera", 28},
+    {"verabd_36.xml", "vera", 36},
+}};
 constexpr int codes = 256;
 /// Measures while there is no font, in pixels.
 constexpr float noFontSize = 16;
@@ -94,6 +99,8 @@ bool ImageFontRenderer::init() {
     bool loaded = true;
     for (const FontFile& f : gameFonts)
         loaded = loadFont(f.file, f.name, f.size) && loaded;
+    for (const FontFile& f : largeFonts)
+        loadFont(f.file, f.name, f.size);
     setFont("vera", 14);
     if (!loaded || renderer_ == nullptr)
         return false;

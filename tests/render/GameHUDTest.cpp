@@ -128,9 +128,6 @@ TEST_F(GameHUDTest, EveryItemStandsAtItsPlaceAtEveryWindowSize) {
     for (const int factor : {1, 2, 3}) {
         hud.resize(640 * factor, 480 * factor);
         for (const Place& place : places) {
-            // Letters keep their size in pixels, so their lines close up in a larger window.
-            if (factor > 1 && std::string(place.label).starts_with("upgrade"))
-                continue;
             const HudItem::Box& box = item(place.label).pixels();
             const int pixels[] = {box.x, box.y, box.width, box.height};
             for (int i = 0; i < 4; ++i)
@@ -229,14 +226,16 @@ TEST_F(GameHUDTest, AnchoredMessagesLieAlongTheEdges) {
     // "12345678" is 72 pixels wide and 18 high.
     struct Case {
         int window[2];
-        int width, height;
+        int scale, width, height;
     };
-    for (const Case& c : {Case{{640, 480}, 72, 18}, Case{{1280, 960}, 36, 9},
-                          // 22.5 and 5.625 design units
-                          Case{{2048, 1536}, 22, 5}}) {
+    for (const Case& c :
+         {Case{{640, 480}, 1, 72, 18}, Case{{1024, 768}, 1, 45, 11}, Case{{1280, 960}, 2, 72, 18},
+          // 67.5 and 16.875 design units
+          Case{{2048, 1536}, 3, 67, 16}}) {
         hud.resize(c.window[0], c.window[1]);
-        const float half = 72.0F * 640 / static_cast<float>(c.window[0]) / 2;
-        const float halfHeight = 18.0F * 640 / static_cast<float>(c.window[0]) / 2;
+        const float unit = 640 * static_cast<float>(c.scale) / static_cast<float>(c.window[0]);
+        const float half = 72 * unit / 2;
+        const float halfHeight = 18 * unit / 2;
         const int mx = 320 - static_cast<int>(half);
         const int my = 240 - static_cast<int>(halfHeight);
         const int rx = 640 - c.width - 10;

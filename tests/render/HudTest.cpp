@@ -82,7 +82,8 @@ TEST(TextHudItem, LongLinesMoveLeftToStayInTheWindow) {
         int x;
         float drawnAt;
     };
-    for (const Case& c : {Case{10, 540, 540}, Case{11, 540, 530}, Case{64, 500, 0},
+    // Four pixels stay free on the right.
+    for (const Case& c : {Case{10, 536, 536}, Case{11, 536, 526}, Case{64, 500, 0},
                           Case{100, 300, 0}, Case{100, -180, 0}, Case{10, -5, -5}}) {
         TextHudItem item("text");
         item.setFont("vera", 20);
@@ -90,6 +91,33 @@ TEST(TextHudItem, LongLinesMoveLeftToStayInTheWindow) {
         item.setPixelPosition(c.x, 100);
         item.draw(renderer, 0);
         EXPECT_EQ(renderer.calls.back().numbers[0], c.drawnAt) << c.letters << " from " << c.x;
+    }
+}
+
+TEST(TextHudItem, LettersGrowWithTheWindowByWholeSteps) {
+    test::RecordingRenderer renderer;
+    Hud hud;
+    auto text = std::make_unique<TextHudItem>("text");
+    TextHudItem& item = *text;
+    item.setFont("vera", 20);
+    item.setText("xx");
+    hud.addItem(std::move(text));
+    struct Case {
+        int window[2];
+        int scale;
+        float font;
+    };
+    for (const Case& c :
+         {Case{{320, 200}, 1, 20}, Case{{640, 480}, 1, 20}, Case{{1024, 768}, 1, 20},
+          Case{{1151, 864}, 1, 20}, Case{{1152, 863}, 1, 20}, Case{{1152, 864}, 2, 40},
+          Case{{1920, 1080}, 2, 40}, Case{{2560, 1440}, 3, 40}, Case{{640, 2000}, 1, 20},
+          Case{{2000000000, 1}, 1, 20}}) {
+        hud.resize(c.window[0], c.window[1]);
+        EXPECT_EQ(item.widthOf(*renderer.getFontRenderer(), "xx"), 20.0F * c.scale) << c.window[0];
+        EXPECT_EQ(item.lineHeight(), 20 * c.scale) << c.window[0];
+        hud.draw(renderer, 0);
+        EXPECT_EQ(renderer.calls.back().numbers[3], c.font) << c.window[0];
+        EXPECT_EQ(renderer.getFontRenderer()->getScale(), 1) << "left as it was";
     }
 }
 
