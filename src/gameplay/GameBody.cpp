@@ -126,6 +126,7 @@ void GameBody::enterLimbo() {
     solid = false;
     inLimbo = true;
     reviveTime = levelTime() + limboTime;
+    limboPlace = pos;
 }
 
 void GameBody::leaveLimbo() {
@@ -136,10 +137,12 @@ void GameBody::leaveLimbo() {
     health = initialHealth;
 }
 
-void GameBody::think(float /*dt*/) {
+void GameBody::update(float /*dt*/) {
     if (!inLimbo)
         return;
+    // Not solid, it would sink into its floor by what gravity adds in each step.
     vel = Vector();
+    placeAt(*this, limboPlace);
     visible = false;
     if (reviveTime < levelTime())
         leaveLimbo();

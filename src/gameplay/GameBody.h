@@ -55,6 +55,8 @@ struct GameBodyState {
     /// Dead, waiting to come back.
     bool inLimbo = false;
     float reviveTime = 0;
+    /// Where it died and comes back.
+    Vector limboPlace;
     /// Health it comes back with.
     int initialHealth = 100;
     bool canGib = true;
@@ -74,9 +76,9 @@ class GameBody : public Body, public GameBodyState {
 
     [[nodiscard]] std::unique_ptr<Body> create() const override;
     void die() override;
-    /// Keeps a body in limbo still and brings it back in time. Subclasses call it first and do
-    /// nothing else while inLimbo.
-    void think(float dt) override;
+    /// Keeps a body in limbo in its place and brings it back in time. What a subclass does in its
+    /// thoughts it leaves while inLimbo.
+    void update(float dt) override;
     void applyAttributes(const std::map<std::string, std::string>& attributes) override;
     void loadState(const TiXmlElement& e) override;
     void saveState(TiXmlElement& e) const override;

@@ -71,6 +71,7 @@ void GameBody::loadState(const TiXmlElement& e) {
     invincTime = xml::readFloat(e, "invinctime");
     numLives = xml::readInt(e, "numlives");
     inLimbo = xml::readBool(e, "inlimbo");
+    limboPlace = pos;
     reviveTime = xml::readFloat(e, "revivetime");
     initialHealth = xml::readInt(e, "initialhealth");
 }
