@@ -24,8 +24,11 @@ Body* spawnInWorld(std::unique_ptr<Body> body, const Vector& position) {
 }
 
 void removeFromWorld(Body& body) {
-    // The mark is all there is to it; a body in no world yet goes as soon as it is in one.
-    body.cancleanup = true;
+    // A body in no world yet goes as soon as it is in one.
+    if (World* world = GameplaySingleton::instance().world())
+        world->markForRemoval(&body);
+    else
+        body.cancleanup = true;
 }
 
 }  // namespace bc

@@ -24,6 +24,10 @@ std::size_t takeOut(std::vector<Body*>& list, const Body* body) {
     return at;
 }
 
+bool isIn(const std::vector<Body*>& list, const Body* body) {
+    return std::find(list.begin(), list.end(), body) != list.end();
+}
+
 bool isOn(const char* variable) {
     const GameVar* var = vars().findVar(variable);
     return var != nullptr && var->intValue() != 0;
@@ -110,6 +114,9 @@ Body* World::spawnBody(std::unique_ptr<Body> body) {
 
 void World::markForRemoval(Body* body) {
     body->cancleanup = true;
+    // A static part of the level: it is in no walk over the active bodies yet.
+    if (!body->isMassive() && !body->entity && !isIn(activeBodies_, body) && isIn(allBodies_, body))
+        activateBody(body);
 }
 
 void World::destroyBody(Body* body) {

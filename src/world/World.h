@@ -72,7 +72,7 @@ class World {
     /// addBody with a new id, activateBody and into the spatial index. A body outside the level's
     /// square is simulated but never met.
     Body* spawnBody(std::unique_ptr<Body> body);
-    /// Deleted by the next moveBodies.
+    /// Deleted by the next moveBodies, also when it has not been simulated so far.
     void markForRemoval(Body* body);
     /// Takes the body out of everything; every other body forgets it. A body the world owns is
     /// deleted: at once, or when the pass that is running ends.

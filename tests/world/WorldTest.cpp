@@ -113,8 +113,14 @@ TEST_F(WorldTest, AnotherBodysTurnIsNeitherLostNorDoubled) {
     }
     world.markForRemoval(bodies[0]);
     world.markForRemoval(bodies[3]);
+    // A part of the level that is not simulated goes as well.
+    Body* part = make(0, 300).release();
+    part->mass = part->invMass = 0;
+    world.addBody(std::unique_ptr<Body>(part), false);
+    world.markForRemoval(part);
     world.freezeVelocities();
     world.moveBodies(dt);
+    EXPECT_EQ(world.allBodies().size(), 4U);
     for (const std::size_t i : {1U, 2U, 4U, 5U})
         EXPECT_FLOAT_EQ(bodies[i]->pos.x, static_cast<float>(100 * i) + 1);
     EXPECT_EQ(living.size(), 4U);
