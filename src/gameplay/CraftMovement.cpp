@@ -76,14 +76,14 @@ Vector thrustOfKeys(const Engines& engines, const ActionState& held) {
 
 /// Starts a burst when asked for and charged; true while one runs.
 bool updateBoost(Player& player, bool wanted, float dt) {
-    if (player.boostLeft <= 0 && player.boostRecharge > 0)
-        player.boostRecharge -= dt;
-    if (wanted && player.boostLeft <= 0 && player.boostRecharge < roundingSeconds) {
+    if (player.boostLeft <= 0) {
+        if (!wanted || player.boostRecharge >= roundingSeconds) {
+            player.boostRecharge = std::max(player.boostRecharge - dt, 0.0F);
+            return false;
+        }
         player.boostLeft = boostSeconds;
         player.startExhaust();
     }
-    if (player.boostLeft <= 0)
-        return false;
     player.boostLeft -= dt;
     if (player.boostLeft < roundingSeconds) {
         player.boostLeft = 0;

@@ -69,6 +69,9 @@ void GrappleProjectile::onTouch(const TouchInfo& touch) {
 
 void GrappleProjectile::think(float dt) {
     Projectile::think(dt);
+    // Let go of, it pulls no more.
+    if (cancleanup)
+        return;
     Player* player = GameplaySingleton::instance().player();
     if (player == nullptr) {
         logLine("NULL PLAYER for grappleprojectile think");

@@ -94,7 +94,7 @@ TEST_F(GameplayInputTest, BoostBurstsAndRecharges) {
     std::string pattern;
     for (int i = 0; i < 90; ++i)
         pattern += boosted("+moveright;+boost") ? '#' : '.';
-    EXPECT_EQ(pattern, std::string(14, '#') + std::string(59, '.') + std::string(14, '#') + "...");
+    EXPECT_EQ(pattern, std::string(14, '#') + std::string(60, '.') + std::string(14, '#') + "..");
     player->boostLeft = player->boostRecharge = 0;
     EXPECT_NEAR(push("+moveright;+boost").x, 2.5F * full, 1e-3F);
     EXPECT_EQ(systemsOf("boostflame"), 1);
@@ -163,8 +163,11 @@ TEST_F(GameplayInputTest, GrappleKeyHoldsTheHookBesideOtherWeapons) {
         step(3);
         EXPECT_TRUE(player->grappling) << active;
         EXPECT_EQ(bodiesOfType("grappleprojectile"), 1) << active;
+        player->grappleHook->holding = true;
+        player->vel = Vector();
         run("-grapple");
         step(2);
+        EXPECT_TRUE(player->vel.isZero()) << active << " pulls after it was let go";
         EXPECT_FALSE(player->grappling) << active;
         EXPECT_EQ(bodiesOfType("grappleprojectile"), 0) << active;
     }
