@@ -188,8 +188,7 @@ void Player::die() {
     if (dying || dead)
         return;
     const float now = levelTime();
-    stopActiveWeapon();
-    releaseGrapple();
+    inventory.unfireAll(now);
     stopExhaust();
     boostLeft = 0;
     deathEffect();
