@@ -26,12 +26,22 @@ constexpr float playerDistance = 64;
 /// Machines that cannot move are struck from farther away.
 constexpr float machineReach = 64;
 
-struct SwarmLevel {
+struct Strength {
     int damage;
     int health;
 };
-constexpr SwarmLevel levels[] = {{10, 60}, {15, 85}, {20, 100}, {30, 150}, {40, 200}};
-constexpr SwarmLevel otherLevel = {5, 50};
+constexpr Strength strengths[] = {{10, 60}, {15, 85}, {20, 100}, {30, 150}, {40, 200}};
+constexpr Strength ofOtherLevels = {5, 50};
+
+const Strength& strengthOf(int swarmLevel) {
+    const bool known = swarmLevel >= 1 && swarmLevel <= PlayerProperties::lastTrackLevel;
+    return known ? strengths[swarmLevel - 1] : ofOtherLevels;
+}
+
+int playersSwarmLevel() {
+    const Player* player = GameplaySingleton::instance().player();
+    return player != nullptr ? player->progress.swarmLevel : 0;
+}
 
 bool isMachine(const Body& body) {
     return body.type == "harddrive" || body.type == "cpu";
@@ -49,7 +59,7 @@ SwarmMember::SwarmMember() {
     invMass = 0.1F;
     gravitymultiplier = 0;
     takesDamage = true;
-    health = initialHealth = otherLevel.health;
+    health = initialHealth = ofOtherLevels.health;
     team.set(team::player);
     entity = true;
     thinks = true;
@@ -68,10 +78,7 @@ void SwarmMember::makeDefaultShape() {
 }
 
 void SwarmMember::applySwarmLevel() {
-    const Player* player = GameplaySingleton::instance().player();
-    const int level = player != nullptr ? player->progress.swarmLevel : 0;
-    const bool known = level >= 1 && level <= PlayerProperties::lastTrackLevel;
-    const SwarmLevel& numbers = known ? levels[level - 1] : otherLevel;
+    const Strength& numbers = strengthOf(playersSwarmLevel());
     weapon.damage = numbers.damage;
     health = initialHealth = numbers.health;
 }
@@ -122,18 +129,15 @@ void SwarmMember::followPlayer() {
         approach(*this, *player, pursuitSpeed, pursuitSpeed);
 }
 
-void SwarmMember::onRestored() {
-    GameBody::onRestored();
-    // The health it was saved with stays.
-    const int saved = health;
-    applySwarmLevel();
-    health = saved;
-}
-
 void SwarmMember::loadState(const TiXmlElement& e) {
     GameBody::loadState(e);
     lifetime = xml::readFloat(e, "lifetime");
     weapon.nextFireTime = xml::readFloat(e, "nextfiretime");
+    // The player, whose level it was released with, is read later.
+    if (xml::has(e, "weapondamage"))
+        weapon.damage = xml::readInt(e, "weapondamage");
+    else
+        weapon.damage = strengthOf(playersSwarmLevel()).damage;
 }
 
 void SwarmMember::saveState(TiXmlElement& e) const {
@@ -141,6 +145,7 @@ void SwarmMember::saveState(TiXmlElement& e) const {
     GameBody::saveState(e);
     xml::writeFloat(e, "lifetime", lifetime);
     xml::writeFloat(e, "nextfiretime", weapon.nextFireTime);
+    xml::writeInt(e, "weapondamage", weapon.damage);
 }
 
 void SwarmMember::dumpState(TiXmlElement& debug) const {

@@ -16,7 +16,6 @@ class SwarmMember final : public GameBody {
     [[nodiscard]] std::unique_ptr<Body> create() const override;
     void makeDefaultShape() override;
     void think(float dt) override;
-    void onRestored() override;
     void loadState(const TiXmlElement& e) override;
     void saveState(TiXmlElement& e) const override;
     void dumpState(TiXmlElement& debug) const override;

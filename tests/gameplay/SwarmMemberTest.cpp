@@ -68,6 +68,8 @@ TEST_F(SwarmMemberTest, RestoredMembersKeepTheirHealthAndTime) {
     member->weapon.nextFireTime = 777;
     TiXmlElement node("custom");
     member->saveState(node);
+    // The player's own level is read after the bodies.
+    player->progress.swarmLevel = 1;
     SwarmMember again;
     again.loadState(node);
     again.onRestored();
