@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <optional>
 #include <string>
 #include <vector>
@@ -44,12 +45,9 @@ void readParams(Body& body, const TiXmlElement& e) {
     body.invMass = mass > staticMass ? 1 / mass : 0;
 }
 
-/// Numbers as people write them: not "nan", "inf" or hexadecimal, and no exponent that overflows.
-bool isNumberText(const std::string& token) {
-    if (token.find_first_not_of("+-.0123456789eE \t\r\n") != std::string::npos)
-        return false;
-    const std::size_t e = token.find_first_of("eE");
-    return e == std::string::npos || std::abs(parseInt(token.substr(e + 1))) <= 30;
+/// Not "nan", "inf" or a number that overflows; what is no number at all reads as 0.
+bool isFiniteText(const std::string& token) {
+    return std::isfinite(std::strtof(token.c_str(), nullptr));
 }
 
 /// A corner's place; nothing when it is no place in any level. Malformed text reads as the origin.
@@ -58,7 +56,7 @@ std::optional<Vector> readOrigin(const std::string& text) {
     tokenise(",", text, tokens);
     if (tokens.size() < 2)
         return Vector();
-    if (!std::all_of(tokens.begin(), tokens.begin() + 2, isNumberText))
+    if (!std::all_of(tokens.begin(), tokens.begin() + 2, isFiniteText))
         return std::nullopt;
     Vector origin;
     origin.fromString(text);

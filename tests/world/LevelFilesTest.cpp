@@ -85,6 +85,10 @@ TEST_F(LevelFilesTest, OddBodiesDoNoHarm) {
         for (const Vector& corner : body->worldVertices())
             EXPECT_LE(std::fabs(corner.x), Body::maxCoordinate);
     }
+    // No numbers at all are zeros; only what is no place is refused, with its body.
+    EXPECT_EQ(load(box("junk", "")).find("Refused"), std::string::npos);
+    for (const char* x : {"nan", "-inf", "1e99"})
+        EXPECT_NE(load(box(x, "")).find("Refused body b"), std::string::npos) << x;
     world.simulate(0.025F, -60);
     std::string many;
     for (int i = 0; i < 200; ++i)
