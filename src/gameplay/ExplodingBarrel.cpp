@@ -17,6 +17,7 @@ ExplodingBarrel::ExplodingBarrel() {
     thinks = true;
     takesDamage = true;
     health = maxHealth = initialHealth = 2;
+    defaultHeight = 24;
 }
 
 std::unique_ptr<Body> ExplodingBarrel::create() const {
@@ -24,13 +25,14 @@ std::unique_ptr<Body> ExplodingBarrel::create() const {
 }
 
 void ExplodingBarrel::die() {
-    // Once: the blast may reach another barrel whose blast comes back here.
-    if (!exploded_) {
-        exploded_ = true;
-        radiusDamage(pos, blastRadius, blastKnockback, blastDamage, damage::blast, this);
-        explosionEffects(pos);
-    }
+    // The blast may reach another barrel whose blast comes back here.
+    if (exploding_ || dying || inLimbo)
+        return;
+    exploding_ = true;
+    radiusDamage(pos, blastRadius, blastKnockback, blastDamage, damage::blast, this);
+    explosionEffects(pos);
     GameBody::die();
+    exploding_ = false;
 }
 
 }  // namespace bc

@@ -6,7 +6,8 @@
 
 namespace bc {
 
-/// Goes up when it is shot, and takes what stands around with it (type "explodingbarrel").
+/// Goes up when it is shot, each time it has a life to lose, and takes what stands around with it
+/// (type "explodingbarrel").
 class ExplodingBarrel final : public GameBody {
   public:
     // The blast: world units, factor of the usual push, damage before difficulty.
@@ -20,7 +21,7 @@ class ExplodingBarrel final : public GameBody {
     void die() override;
 
   private:
-    bool exploded_ = false;
+    bool exploding_ = false;
 };
 
 }  // namespace bc

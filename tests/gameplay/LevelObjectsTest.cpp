@@ -192,6 +192,21 @@ TEST_F(LevelObjectsTest, ABarrelTakesItsNeighboursAlong) {
     EXPECT_EQ(witness->times.size(), 1U);
 }
 
+TEST_F(LevelObjectsTest, ABarrelWithLivesGoesUpWithEachOfThem) {
+    ExplodingBarrel* barrel = add<ExplodingBarrel>(Vector(320, 0));
+    barrel->numLives = 2;
+    GameBody* target = addTarget(Vector(340, 0));
+    for (const int hurt : {1, 2}) {
+        const int before = target->getHealth();
+        barrel->takeDamage(5, damage::pistol);
+        EXPECT_LT(target->getHealth(), before) << hurt;
+        placeAt(*target, Vector(340, 0));
+        target->vel = Vector();
+        stepMsecs(GameBody::limboTime + 300);
+    }
+    EXPECT_EQ(bodiesOfType("explodingbarrel"), 0);
+}
+
 TEST_F(LevelObjectsTest, SoundsStartAndStopWithDistance) {
     auto body = std::make_unique<SoundBody>();
     body->applyAttributes({{"sound", "hum.wav"}});
