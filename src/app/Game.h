@@ -138,6 +138,7 @@ class Game final : public IGame {
     void pumpEvents();
     void runScriptLine(const std::string& line);
     void runFramePaused();
+    void listen();
     void gatherVisible();
     void togglePause();
     void showMap(bool on);

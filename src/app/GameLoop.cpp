@@ -107,6 +107,8 @@ void Game::runFrame() {
         }
         updateWorld();
         renderWorld();
+    } else {
+        listen();
     }
     const float dt = frameClock_.frameSeconds();
     if (overlay_) {
@@ -118,7 +120,14 @@ void Game::runFrame() {
         gameplay_->drawHud(*renderer_, dt);
 }
 
+// Also while the world stands: the limit on sounds at once counts those that played at the last
+// call, and a change of the volume sets all channels to it, the far ones as well.
+void Game::listen() {
+    sound_->updateListener(player_->renderpos);
+}
+
 void Game::runFramePaused() {
+    listen();
     renderer_->begin2D();
     gui_->draw(*renderer_);
     console_->draw(*renderer_);
@@ -186,7 +195,7 @@ void Game::updateWorld() {
         ++stepCount_;
         ++levelSteps_;
     }
-    sound_->updateListener(player_->renderpos);
+    listen();
     while (particleAccumulator_ >= particleStep) {
         particleManager().update(particleStep, renderer_->getFrustum());
         particleAccumulator_ -= particleStep;

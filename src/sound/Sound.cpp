@@ -84,6 +84,8 @@ bool Sound::openAudio() {
     // A device that was reopened starts at full volume.
     applyVolume();
     applyMusicVolume();
+    if (!waitingDefs_.empty())
+        loadSoundDefs(std::exchange(waitingDefs_, {}));
     return true;
 }
 
@@ -241,6 +243,7 @@ void Sound::loadSoundDefs(const std::string& path) {
         logLine("Could not load sound defs file: " + path);
         return;
     }
+    waitingDefs_ = initialised_ ? std::string() : path;
     for (const TiXmlElement* e = document.RootElement()->FirstChildElement(); e;
          e = e->NextSiblingElement())
         registerSound(xml::readInt(*e, "id"), xml::readInt(*e, "channel"),

@@ -153,6 +153,8 @@ class Sound : public ISound {
     GameVar* channelsVar_ = nullptr;
     GameVar* frequencyVar_ = nullptr;
     GameVar* logVar_ = nullptr;
+    /// The file of definitions whose samples wait for a device, empty when none do.
+    std::string waitingDefs_;
     // What the loaded samples were converted to.
     int sampleFrequency_ = 0;
     int sampleOutputs_ = 0;

@@ -197,9 +197,11 @@ TEST(Program, ABadLevelLeavesTheRunningOne) {
 TEST(Program, PauseStopsTheLevelClock) {
     RunGame game;
     game.script(
-        "0 map hangar\n40 pause\n41 dumpworld a.xml\n60 savegame\n80 dumpworld b.xml\n80 pause\n"
-        "90 dumpworld c.xml\n");
-    ASSERT_EQ(game.headless({"--frames", "92"}), 0);
+        "0 map hangar\n38 playsound data/sounds/effects/explosion.wav\n"
+        "40 pause\n41 dumpworld a.xml\n41 dumpstate playing.xml\n"
+        "60 savegame\n80 dumpworld b.xml\n80 pause\n90 dumpworld c.xml\n90 +showmap\n"
+        "179 dumpstate over.xml\n");
+    ASSERT_EQ(game.headless({"--frames", "180"}), 0);
     const auto time = [&](const char* file) {
         return std::stof(attribute(game.read(file), nullptr, "leveltime"));
     };
@@ -207,6 +209,9 @@ TEST(Program, PauseStopsTheLevelClock) {
     EXPECT_FLOAT_EQ(time("a.xml"), time("b.xml"));
     EXPECT_GT(time("c.xml"), time("b.xml"));
     EXPECT_LT(time("c.xml"), time("b.xml") + 400);
+    // Sounds end meanwhile, and are no longer counted.
+    EXPECT_EQ(attribute(game.read("playing.xml"), "sound", "playingcount"), "2");
+    EXPECT_EQ(attribute(game.read("over.xml"), "sound", "playingcount"), "0");
 }
 
 TEST(Program, AScriptThatRunsItselfEnds) {
