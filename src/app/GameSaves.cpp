@@ -18,10 +18,12 @@
 #include "resources/XmlAttributes.h"
 #include "world/BodyFactory.h"
 #include "world/LevelLoader.h"
+#include "world/WorldOrder.h"
 
 #include <tinyxml.h>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace bc {
@@ -52,6 +54,7 @@ void Game::saveGame() {
         return;
     }
     gameplay_->beforeSave();
+    const xml::ExactNumbers exact;
     TiXmlDocument document;
     auto* root = document.LinkEndChild(new TiXmlElement("save"))->ToElement();
     xml::writeInt(*root, "version", saveVersion);
@@ -62,6 +65,7 @@ void Game::saveGame() {
     gameplay_->saveGameplayState(*root);
     xml::writeString(*root, "random", std::to_string(randomState()));
     saveEntities(world_, *root);
+    saveOrder(world_, *root);
     auto* player = root->LinkEndChild(new TiXmlElement("Player"))->ToElement();
     player_->saveState(*player);
     TiXmlPrinter printer;
@@ -92,9 +96,11 @@ bool Game::loadGame(const std::string& name) {
     const TiXmlElement* playerNode = root->FirstChildElement("Player");
     logLine("Loading save game: " + path);
     // Everything is read before the running level is let go.
+    const xml::ExactNumbers exact;
     const std::string level = xml::readString(*root, "currentlevel");
-    std::optional<LevelBodies> bodies = readLevel(*bodyFactory_, level, true);
-    if (!bodies || !readSavedBodies(*bodyFactory_, *root, *bodies))
+    std::optional<LevelBodies> bodies = readLevel(*bodyFactory_, level);
+    LevelBodies entities;
+    if (!bodies || !readSavedBodies(*bodyFactory_, *root, entities))
         return refuse();
 
     saveName_ = name;
@@ -107,6 +113,8 @@ bool Game::loadGame(const std::string& name) {
     world_.setNextBodyId(xml::readInt(*root, "nextbodyid"));
     // The clock first: what bodies note while they are put into the world is on it.
     gameplay_->loadGameplayState(*root);
+    shapeIndex(world_, *bodies);
+    std::move(entities.begin(), entities.end(), std::back_inserter(*bodies));
     insertBodies(world_, std::move(*bodies), true);
     currentLevel_ = level;
     insertPlayer();
@@ -114,6 +122,7 @@ bool Game::loadGame(const std::string& name) {
     gameplay_->startLevel("");
     if (playerNode != nullptr)
         restorePlayer(*playerNode);
+    restoreOrder(world_, *root, simulationStep);
     if (xml::has(*root, "random"))
         setRandomState(
             static_cast<std::uint32_t>(std::strtoul(root->Attribute("random"), nullptr, 10)));

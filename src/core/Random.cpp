@@ -13,39 +13,58 @@ namespace {
 constexpr std::uint32_t multiplier = 1664525U;
 constexpr std::uint32_t increment = 1013904223U;
 
-std::uint32_t state = 1;
+Random play;
+Random looks;
 
 }  // namespace
 
-void seedRandom(std::uint32_t seed) {
+void Random::seed(std::uint32_t seed) {
     // Neighbouring seeds give unlike sequences only after the bits have been spread.
     seed ^= seed >> 16;
     seed *= 0x7feb352dU;
     seed ^= seed >> 15;
-    state = seed;
+    state_ = seed;
+}
+
+int Random::integer() {
+    state_ = state_ * multiplier + increment;
+    return static_cast<int>(state_ >> 17);
+}
+
+float Random::range(float lo, float hi) {
+    if (lo == 0 && hi == 0)
+        return 0;
+    return lo + (hi - lo) * static_cast<float>(integer()) / 32768.0F;
+}
+
+Vector Random::direction() {
+    const float theta = (range(0, 360) + 90) * 3.1415927F / 180;
+    return {-std::cos(theta), -std::sin(theta)};
+}
+
+Random& looksRandom() {
+    return looks;
+}
+
+void seedRandom(std::uint32_t seed) {
+    play.seed(seed);
+    looks.seed(~seed);
 }
 
 std::uint32_t randomState() {
-    return state;
+    return play.state();
 }
-void setRandomState(std::uint32_t value) {
-    state = value;
+void setRandomState(std::uint32_t state) {
+    play.setState(state);
 }
-
 int randomInt() {
-    state = state * multiplier + increment;
-    return static_cast<int>(state >> 17);
+    return play.integer();
 }
-
 float randomRange(float lo, float hi) {
-    if (lo == 0 && hi == 0)
-        return 0;
-    return lo + (hi - lo) * static_cast<float>(randomInt()) / 32768.0F;
+    return play.range(lo, hi);
 }
-
 Vector randomDirection() {
-    const float theta = (randomRange(0, 360) + 90) * 3.1415927F / 180;
-    return {-std::cos(theta), -std::sin(theta)};
+    return play.direction();
 }
 
 }  // namespace bc

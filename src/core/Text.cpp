@@ -13,6 +13,8 @@ namespace bc {
 
 namespace {
 
+int exactFloats = 0;
+
 char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
@@ -89,10 +91,19 @@ bool parseBool(const char* text) {
     return text != nullptr && std::string_view(text) == "true";
 }
 
+ExactFloats::ExactFloats() {
+    ++exactFloats;
+}
+ExactFloats::~ExactFloats() {
+    --exactFloats;
+}
+
 std::string formatFloat(float value) {
     char buffer[32];
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 6).ptr;
+    char* const limit = buffer + sizeof buffer;
+    const auto end = exactFloats > 0
+                         ? std::to_chars(buffer, limit, value, std::chars_format::general).ptr
+                         : std::to_chars(buffer, limit, value, std::chars_format::general, 6).ptr;
     return {buffer, end};
 }
 

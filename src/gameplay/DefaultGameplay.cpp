@@ -260,6 +260,13 @@ void DefaultGameplay::loadGameplayState(const TiXmlElement& node) {
     stateLoaded_ = true;
 }
 
+void DefaultGameplay::beforeSave() {
+    // The pass that saves counts as level time, so it is in the save as well.
+    tickClock();
+    if (raceActive_)
+        raceClock_.tick();
+}
+
 void DefaultGameplay::tickClock() {
     levelClock().tick();
 }

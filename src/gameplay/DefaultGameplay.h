@@ -43,7 +43,7 @@ class DefaultGameplay final : public IGameplay {
     void setScreenSize(int width, int height) override;
     void saveGameplayState(TiXmlElement& node) override;
     void loadGameplayState(const TiXmlElement& node) override;
-    void beforeSave() override {}
+    void beforeSave() override;
     void tickClock() override;
     void pause() override;
     void resume() override;

@@ -153,7 +153,6 @@ void GameBody::removeChild(GameBody* child) {
     if (found == children.end())
         return;
     children.erase(found);
-    // A restored projectile is a child as well, but was never counted.
     if (numAlive > 0)
         --numAlive;
 }

@@ -73,6 +73,12 @@ bool Projectile::isStoppedBy(const Body& other) const {
            acceptsCollision(other) && other.acceptsCollision(*this);
 }
 
+void Projectile::onBeforeTargets() {
+    PooledBody::onBeforeTargets();
+    if (owner != nullptr)
+        std::erase(owner->children, this);
+}
+
 void Projectile::loadState(const TiXmlElement& e) {
     PooledBody::loadState(e);
     speed = xml::readFloat(e, "speed");

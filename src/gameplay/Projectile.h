@@ -20,6 +20,8 @@ class Projectile : public PooledBody {
     /// Once in flight: the trail behind it and whatever else follows it.
     virtual void attachEffects() {}
     void onRestored() override { attachEffects(); }
+    /// What fired it is its owner, but it is no child: it flies on when that one is gone.
+    void onBeforeTargets() override;
 
     /// Blast damage around its place, effects, and it is gone. Nothing happens a second time.
     void explode();

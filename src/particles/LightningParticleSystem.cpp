@@ -15,7 +15,7 @@ const std::array<std::string, 2> images = {"data/particles/lightning2.png",
 
 /// -1, 0 or 1 world units, equally often.
 float jitter() {
-    return static_cast<float>(randomInt() % 3 - 1);
+    return static_cast<float>(looksRandom().integer() % 3 - 1);
 }
 
 }  // namespace

@@ -19,23 +19,23 @@ bool isFinite(const Vector& v) {
 }
 
 Vector randomIn(const Vector& low, const Vector& high) {
-    const float x = randomRange(low.x, high.x);
-    const float y = randomRange(low.y, high.y);
-    const float z = randomRange(low.z, high.z);
+    const float x = looksRandom().range(low.x, high.x);
+    const float y = looksRandom().range(low.y, high.y);
+    const float z = looksRandom().range(low.z, high.z);
     return {x, y, z};
 }
 
 RGBAColour randomAround(const RGBAColour& middle, const RGBAColour& low, const RGBAColour& high) {
-    const float r = middle.r + randomRange(low.r, high.r);
-    const float g = middle.g + randomRange(low.g, high.g);
-    const float b = middle.b + randomRange(low.b, high.b);
-    const float a = middle.a + randomRange(low.a, high.a);
+    const float r = middle.r + looksRandom().range(low.r, high.r);
+    const float g = middle.g + looksRandom().range(low.g, high.g);
+    const float b = middle.b + looksRandom().range(low.b, high.b);
+    const float a = middle.a + looksRandom().range(low.a, high.a);
     return {r, g, b, a};
 }
 
 Dimension randomAround(const Dimension& middle, const Dimension& low, const Dimension& high) {
-    const float width = middle.width + randomRange(low.width, high.width);
-    const float height = middle.height + randomRange(low.height, high.height);
+    const float width = middle.width + looksRandom().range(low.width, high.width);
+    const float height = middle.height + looksRandom().range(low.height, high.height);
     return {width, height};
 }
 
@@ -95,7 +95,8 @@ void ParticleSystem::emitOne(const Vector& position, const Vector& second) {
     const Dimension end = randomAround(d.endDimension, d.endDimensionVarLow, d.endDimensionVarHigh);
     p.setSize(start.width, start.height);
     p.setEndSize(end.width, end.height);
-    p.lifeTime = d.particleLifeTime + randomRange(d.particleLifeTimeLow, d.particleLifeTimeHigh);
+    p.lifeTime =
+        d.particleLifeTime + looksRandom().range(d.particleLifeTimeLow, d.particleLifeTimeHigh);
     p.immortal = p.lifeTime == -1;
     spawnShape(position, p.pos, p.vel);
     p.second = second;
@@ -115,7 +116,7 @@ void ParticleSystem::spawnShape(const Vector& origin, Vector& position, Vector& 
     position = origin + randomIn(d.posVarLow, d.posVarHigh);
     velocity = d.vel;
     if (d.generationShape == "sphere") {
-        const Vector direction = randomDirection();
+        const Vector direction = looksRandom().direction();
         velocity = {direction.x * d.vel.x, direction.y * d.vel.y, direction.z * d.vel.z};
     }
     velocity += randomIn(d.velVarLow, d.velVarHigh);
@@ -186,7 +187,7 @@ void ParticleSystem::emitForStep(float dt) {
     if (n < 1 && sinceEmission_ >= interval * 0.999F)
         n = 1;
     if (n < 1 && systemTime_ >= interval) {
-        const float r = static_cast<float>(randomInt()) / static_cast<float>(randomMax);
+        const float r = static_cast<float>(looksRandom().integer()) / static_cast<float>(randomMax);
         if (r < wanted)
             n = 1;
     }

@@ -18,10 +18,36 @@ std::string_view text(const TiXmlElement& e, const char* name) {
     return value != nullptr ? std::string_view(value) : std::string_view();
 }
 
+int exactNumbers = 0;
+
+std::string exactName(const char* name) {
+    return std::string(name) + ".exact";
+}
+
 }  // namespace
 
+ExactNumbers::ExactNumbers() {
+    ++exactNumbers;
+}
+ExactNumbers::~ExactNumbers() {
+    --exactNumbers;
+}
+bool ExactNumbers::inForce() {
+    return exactNumbers > 0;
+}
+
+std::string numberText(const TiXmlElement& e, const char* name) {
+    if (exactNumbers > 0)
+        if (const char* exact = e.Attribute(exactName(name).c_str()))
+            return exact;
+    return readString(e, name);
+}
+void writeExactText(TiXmlElement& e, const char* name, const std::string& text) {
+    writeString(e, exactName(name).c_str(), text);
+}
+
 float readFloat(const TiXmlElement& e, const char* name) {
-    return parseFloat(text(e, name));
+    return exactNumbers > 0 ? parseFloat(numberText(e, name)) : parseFloat(text(e, name));
 }
 int readInt(const TiXmlElement& e, const char* name) {
     return parseInt(text(e, name));
@@ -54,6 +80,10 @@ void writeFloat(TiXmlElement& e, const char* name, float value) {
                          .ptr;
     *end = '\0';
     e.SetAttribute(name, buffer.data());
+    if (exactNumbers == 0 || parseFloat(buffer.data()) == value)
+        return;
+    const ExactFloats exact;
+    writeExactText(e, name, formatFloat(value));
 }
 
 }  // namespace bc::xml

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Text.h"
+
 #include <string>
 
 class TiXmlElement;
@@ -19,11 +21,27 @@ namespace xml {
 /// Empty when missing.
 [[nodiscard]] std::string readString(const TiXmlElement& e, const char* name);
 
+/// While one lives, a number whose usual text reads back as another one is written a second time,
+/// to the last bit, under its name with ".exact" behind it; and read from there, if it is there.
+/// For saves: a run that goes on from one stays the same run.
+class ExactNumbers {
+  public:
+    ExactNumbers();
+    ~ExactNumbers();
+    ExactNumbers(const ExactNumbers&) = delete;
+    ExactNumbers& operator=(const ExactNumbers&) = delete;
+    [[nodiscard]] static bool inForce();
+};
+
+/// The text of an attribute that holds numbers.
+[[nodiscard]] std::string numberText(const TiXmlElement& e, const char* name);
+void writeExactText(TiXmlElement& e, const char* name, const std::string& text);
+
 /// For types with fromString and toString (Vector, RGBAColour, Dimension, TexCoord, BasicTimer).
 template <class Value>
 void readValue(const TiXmlElement& e, const char* name, Value& value) {
     if (has(e, name))
-        value.fromString(readString(e, name));
+        value.fromString(numberText(e, name));
 }
 
 void writeString(TiXmlElement& e, const char* name, const std::string& value);
@@ -35,7 +53,13 @@ void writeBool(TiXmlElement& e, const char* name, bool value);
 void writeFloat(TiXmlElement& e, const char* name, float value);
 template <class Value>
 void writeValue(TiXmlElement& e, const char* name, const Value& value) {
-    writeString(e, name, value.toString());
+    const std::string text = value.toString();
+    writeString(e, name, text);
+    if (!ExactNumbers::inForce())
+        return;
+    const ExactFloats exact;
+    if (const std::string longer = value.toString(); longer != text)
+        writeExactText(e, name, longer);
 }
 
 }  // namespace xml

@@ -78,6 +78,8 @@ void Body::saveState(TiXmlElement& e) const {
     xml::writeBool(e, "cancleanup", cancleanup);
     xml::writeString(e, "texture", texture);
     xml::writeInt(e, "autoid", autoid);
+    xml::writeBool(e, "contact", contact);
+    xml::writeFloat(e, "angle", angle);
 }
 
 void Body::loadState(const TiXmlElement& e) {
@@ -98,6 +100,8 @@ void Body::loadState(const TiXmlElement& e) {
     if (xml::has(e, "texture"))
         setTexture(xml::readString(e, "texture"));
     autoid = xml::readInt(e, "autoid");
+    contact = xml::readBool(e, "contact");
+    angle = xml::readFloat(e, "angle");
 }
 
 void Body::dumpState(TiXmlElement& debug) const {

@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace bc::levelformat {
@@ -22,6 +23,7 @@ namespace {
 
 // What a level calls static.
 constexpr float staticMass = 1e-7F;
+constexpr const char* shapeAttribute = "shape";
 
 void readParams(Body& body, const TiXmlElement& e) {
     body.targets = xml::readString(e, "targets");
@@ -69,6 +71,9 @@ std::optional<Vector> readOrigin(const std::string& text) {
 /// Empty, or why the body is refused.
 std::string readCorners(Body& body, const TiXmlElement& e) {
     int count = 0;
+    // A polygon that its class gave it is not added to.
+    if (e.FirstChildElement("verts") != nullptr)
+        body.clearGeometry();
     for (const TiXmlElement* verts = e.FirstChildElement("verts"); verts != nullptr;
          verts = verts->NextSiblingElement("verts"))
         for (const TiXmlElement* v = verts->FirstChildElement(); v != nullptr;
@@ -146,6 +151,35 @@ std::unique_ptr<Body> readBody(BodyCreator& factory, const TiXmlElement& e, bool
     body->updateGeometry();
     body->computeBounds();
     return body;
+}
+
+void writeShape(const Body& body, TiXmlElement& custom) {
+    if (body.usesDefaultShape || body.localVertices.empty())
+        return;
+    const ExactFloats exact;
+    std::string corners;
+    for (const Vector& corner : body.localVertices)
+        corners += formatFloat(corner.x) + ',' + formatFloat(corner.y) + ';';
+    xml::writeString(custom, shapeAttribute, corners);
+}
+
+void readShape(Body& body, const TiXmlElement& custom) {
+    if (body.usesDefaultShape)
+        return;
+    const float angle = std::exchange(body.angle, 0.0F);
+    std::vector<std::string> corners;
+    tokenise(";", xml::readString(custom, shapeAttribute), corners);
+    if (corners.size() != body.localVertices.size())
+        return;
+    std::vector<Vector> read(corners.size());
+    for (std::size_t i = 0; i < read.size(); ++i) {
+        read[i].fromString(corners[i]);
+        if (std::fabs(read[i].x) > Body::maxCoordinate ||
+            std::fabs(read[i].y) > Body::maxCoordinate)
+            return;
+    }
+    body.localVertices = std::move(read);
+    body.angle = angle;
 }
 
 TiXmlElement* writeBody(const Body& body, TiXmlElement& parent) {

@@ -26,6 +26,12 @@ inline constexpr int maxCorners = 64;
                                              bool skipEntities);
 /// Appends a P element, with the state in custom. Returns it.
 TiXmlElement* writeBody(const Body& body, TiXmlElement& parent);
+/// The polygon before it was turned and placed, to the last bit, which the places of its corners do
+/// not tell. Nothing for a body of a default shape.
+void writeShape(const Body& body, TiXmlElement& custom);
+/// After loadState. What is missing or has other corners than the body leaves the polygon as it is,
+/// not turned.
+void readShape(Body& body, const TiXmlElement& custom);
 
 }  // namespace levelformat
 }  // namespace bc

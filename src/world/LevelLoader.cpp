@@ -45,8 +45,10 @@ void readObjects(BodyCreator& factory, const TiXmlElement& objects, bool skipEnt
         std::unique_ptr<Body> body = levelformat::readBody(factory, *p, skipEntities);
         if (!body)
             continue;
-        if (const TiXmlElement* custom = p->FirstChildElement("custom"); withState && custom)
+        if (const TiXmlElement* custom = p->FirstChildElement("custom"); withState && custom) {
             body->loadState(*custom);
+            levelformat::readShape(*body, *custom);
+        }
         out.push_back(std::move(body));
     }
 }
@@ -121,6 +123,18 @@ bool readSavedBodies(BodyCreator& factory, const TiXmlElement& root, LevelBodies
     return true;
 }
 
+void shapeIndex(World& world, LevelBodies& bodies) {
+    std::vector<Body*> batch;
+    for (const std::unique_ptr<Body>& body : bodies)
+        batch.push_back(body.get());
+    sizeIndex(world.quadtree(), batch);
+    for (Body* body : batch)
+        world.quadtree().insert(*body);
+    for (Body* body : batch)
+        world.quadtree().remove(*body);
+    std::erase_if(bodies, [](const std::unique_ptr<Body>& body) { return body->entity; });
+}
+
 void insertBodies(World& world, LevelBodies bodies, bool restoring) {
     // The hooks may destroy bodies of the batch.
     const World::DeferredDeletion deferred(world);
@@ -130,7 +144,8 @@ void insertBodies(World& world, LevelBodies bodies, bool restoring) {
         body->computeBounds();
         batch.push_back(body.get());
     }
-    sizeIndex(world.quadtree(), batch);
+    if (world.quadtree().isEmpty())
+        sizeIndex(world.quadtree(), batch);
     for (std::unique_ptr<Body>& owned : bodies) {
         Body* body = owned.get();
         world.addBody(std::move(owned), body->entity && !restoring);
@@ -187,8 +202,10 @@ bool loadLevel(World& world, BodyCreator& factory, std::string_view name) {
 void saveEntities(const World& world, TiXmlElement& root) {
     TiXmlElement* objects = root.LinkEndChild(new TiXmlElement("Objects"))->ToElement();
     for (const Body* body : world.allBodies())
-        if (body->entity && body->type != "player" && body->type != "grappleprojectile")
-            levelformat::writeBody(*body, *objects);
+        if (body->entity && body->type != "player" && body->type != "grappleprojectile") {
+            TiXmlElement* p = levelformat::writeBody(*body, *objects);
+            levelformat::writeShape(*body, *p->FirstChildElement("custom"));
+        }
 }
 
 }  // namespace bc

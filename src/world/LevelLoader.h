@@ -31,11 +31,16 @@ using LevelBodies = std::vector<std::unique_ptr<Body>>;
 [[nodiscard]] std::optional<LevelBodies> readLevel(BodyCreator& factory, std::string_view name,
                                                    bool skipEntities = false);
 /// Reads the bodies under the root's Objects elements, with the state in their custom children, and
-/// appends them. False when the root has no Objects element.
+/// appends them. Texts are read exactly while xml::ExactNumbers is in force. False when the root
+/// has no Objects element.
 bool readSavedBodies(BodyCreator& factory, const TiXmlElement& root, LevelBodies& out);
 
-/// Sizes the world's index to the bodies, puts them into the world in order, resolves their targets
-/// and calls their post-load hooks. restoring: they come from a save and keep their ids.
+/// Gives the world's index the shape that it has when the level begins, with nothing in it, and
+/// then takes the entities out of the bodies: for saves, which hold their own.
+void shapeIndex(World& world, LevelBodies& bodies);
+/// Puts the bodies into the world in order, resolves their targets and calls their post-load hooks.
+/// An index that has no shape yet is sized to them. restoring: they come from a save and keep their
+/// ids.
 void insertBodies(World& world, LevelBodies bodies, bool restoring);
 /// The second half of loading a level by name: insertBodies, the dump of the variable
 /// load_leveldebug and the console line "Loaded successfuly: " + path.
@@ -44,7 +49,8 @@ void placeLevel(World& world, LevelBodies bodies, std::string_view name);
 /// console, when the level cannot be read.
 bool loadLevel(World& world, BodyCreator& factory, std::string_view name);
 
-/// Appends an Objects element with every entity of the world but the player and the grapple.
+/// Appends an Objects element with every entity of the world but the player and the grapple, with
+/// its polygon to the last bit.
 void saveEntities(const World& world, TiXmlElement& root);
 
 }  // namespace bc

@@ -87,6 +87,9 @@ class QuadTree {
     [[nodiscard]] int consideredBodies() const { return consideredBodies_; }
     [[nodiscard]] int gatheredBodies() const { return gatheredBodies_; }
 
+    /// Every body, in the order in which they came in or were re-inserted. Not for hot paths.
+    [[nodiscard]] std::vector<Body*> inOrder() const;
+
     /// Node outlines and centres as lines at a depth, each level fainter.
     void drawDebug(IRenderer& renderer, float depth, float alpha = 255) const;
     /// Nodes with centre, size and the ids of their bodies, in order.

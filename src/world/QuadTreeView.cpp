@@ -48,6 +48,19 @@ void QuadTree::renumber() {
     sequence_ = next;
 }
 
+std::vector<Body*> QuadTree::inOrder() const {
+    std::vector<const IndexEntry*> entries;
+    for (const IndexEntry& entry : store_->entries.entries)
+        if (entry.body != nullptr)
+            entries.push_back(&entry);
+    std::sort(entries.begin(), entries.end(),
+              [](const IndexEntry* a, const IndexEntry* b) { return a->sequence < b->sequence; });
+    std::vector<Body*> bodies;
+    for (const IndexEntry* entry : entries)
+        bodies.push_back(entry->body);
+    return bodies;
+}
+
 void QuadTree::gatherVisible(const Frustum& view, bool cullNodes, bool cullBodies,
                              std::vector<Body*>& out) {
     visitedNodes_ = consideredBodies_ = gatheredBodies_ = 0;

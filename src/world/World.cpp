@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <unordered_map>
 #include <utility>
 
 namespace bc {
@@ -78,6 +79,15 @@ int World::addBody(std::unique_ptr<Body> body, bool assignId) {
 
 void World::activateBody(Body* body) {
     activeBodies_.push_back(body);
+}
+
+void World::reorder(std::vector<Body*> order) {
+    std::unordered_map<const Body*, std::size_t> place;
+    for (const Body* body : order)
+        place.emplace(body, place.size());
+    allBodies_ = std::move(order);
+    std::stable_sort(activeBodies_.begin(), activeBodies_.end(),
+                     [&](const Body* a, const Body* b) { return place[a] < place[b]; });
 }
 
 std::unique_ptr<Body> World::releaseOwned(Body* body) {

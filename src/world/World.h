@@ -66,6 +66,9 @@ class World {
     /// The same for a body that stays the caller's (the player).
     int addBody(Body* body, bool assignId);
     void activateBody(Body* body);
+    /// Puts allBodies into this order, which has the same bodies, and activeBodies into the like.
+    /// Not during a pass.
+    void reorder(std::vector<Body*> order);
     /// Takes the first occurrence out of allBodies. The result owns it if the world did.
     std::unique_ptr<Body> removeFromAll(Body* body);
     void removeFromActive(Body* body);
