@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 class TiXmlElement;
 
@@ -123,6 +124,13 @@ class Game final : public IGame {
 
     struct Handles;
 
+    /// What the command line put in place of a configured value.
+    struct Overridden {
+        GameVar* var;
+        int configured;
+        int inForce;
+    };
+
     void registerLevelCommands();
     void registerSystemCommands();
     void registerPlayerCommands();
@@ -131,6 +139,10 @@ class Game final : public IGame {
     bool initFonts();
     void initGameplay();
     void initVideoMode();
+    /// Sets a variable for this run only.
+    void overrideSetting(const char* name, int value);
+    /// Gives variables back what they had before, but for those that were changed since.
+    void restoreSettings();
     void writeRunBanner();
     void loadScript();
     void runStartCommands();
@@ -154,6 +166,7 @@ class Game final : public IGame {
     EventPump events_;
     FrameScript script_;
     std::unique_ptr<Handles> vars_;
+    std::vector<Overridden> overridden_;
 
     std::unique_ptr<IGameplay> gameplay_;
     std::unique_ptr<Sound> sound_;

@@ -162,19 +162,31 @@ void Game::initGameplay() {
     world_.setPlayer(player_.get());
 }
 
+void Game::overrideSetting(const char* name, int value) {
+    GameVar* var = vars().getVar(name);
+    overridden_.push_back({var, var->intValue(), value});
+    var->setInt(value);
+}
+
+void Game::restoreSettings() {
+    for (const Overridden& setting : overridden_)
+        if (setting.var->intValue() == setting.inForce)
+            setting.var->setInt(setting.configured);
+    overridden_.clear();
+}
+
 void Game::initVideoMode() {
     GameVar* width = vars().getVar("vidwidth");
     GameVar* height = vars().getVar("vidheight");
     GameVar* fullscreen = vars().getVar("vidfullscreen");
     GameVar* firstRun = vars().getVar("firstrun");
     if (options_.width) {
-        width->setInt(*options_.width);
-        height->setInt(*options_.height);
-        fullscreen->setInt(0);
-        firstRun->setString("0");
+        overrideSetting("vidwidth", *options_.width);
+        overrideSetting("vidheight", *options_.height);
+        overrideSetting("firstrun", 0);
     }
-    if (options_.fullscreen)
-        fullscreen->setInt(1);
+    if (options_.width || options_.fullscreen)
+        overrideSetting("vidfullscreen", options_.fullscreen ? 1 : 0);
     if (options_.headless) {
         // The books of a run without a window are those of the usual one.
         renderer_->setVideoMode(options_.width.value_or(1024), options_.height.value_or(768),
@@ -297,6 +309,7 @@ void Game::setPlayer(Body* player) {
 }
 
 void Game::shutdown() {
+    restoreSettings();
     writeConfig("data/config.txt", true);
     release();
 }

@@ -166,6 +166,20 @@ TEST(Program, SettingsComeBackAtTheNextStart) {
     EXPECT_NE(mine.find("\ncon_height 0.7\n"), std::string::npos);
 }
 
+TEST(Program, AWindowSizeOfTheCommandLineIsForOneRun) {
+    RunGame game;
+    game.write("data/config.txt", "vidwidth 900\nvidheight 700\nvidfullscreen 1\nfirstrun 1\n");
+    const std::vector<std::string> once = {"--frames", "1", "--window", "640x480"};
+    EXPECT_EQ(game.headless(once), 0);
+    for (const char* line :
+         {"\nvidwidth 900\n", "\nvidheight 700\n", "\nvidfullscreen 1\n", "\nfirstrun 1\n"})
+        EXPECT_NE(game.read("data/config.txt").find(line), std::string::npos) << line;
+    std::vector<std::string> changed = once;
+    changed.insert(changed.end(), {"+set", "vidwidth", "800"});
+    EXPECT_EQ(game.headless(changed), 0);
+    EXPECT_NE(game.read("data/config.txt").find("\nvidwidth 800\n"), std::string::npos);
+}
+
 TEST(Program, ABadLevelLeavesTheRunningOne) {
     RunGame game;
     game.write("maps/broken.xml", "<level><Objects><P type=");
