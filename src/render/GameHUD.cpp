@@ -132,9 +132,13 @@ void GameHUD::weaponSelected(int weaponId) {
     setWeaponStripVisible(true);
     placeStripMarker(weaponId);
     stripName_->setText(names_ ? names_->hudDisplayName(weaponId) : std::string());
+    centreStripName();
+    placeItem(*stripName_, stripName_->design().x, stripName_->design().y);
+}
+
+void GameHUD::centreStripName() {
     const auto half = static_cast<int>(designWidth(*stripName_, stripName_->text()) / 2);
     stripName_->setPosition(canvasWidth / 2 - half, stripName_->design().y);
-    placeItem(*stripName_, stripName_->design().x, stripName_->design().y);
 }
 
 void GameHUD::showMessageAt(int x, int y, std::string_view text) {

@@ -76,6 +76,7 @@ class GameHUD final : public Hud {
     ImageHudItem* addStripIcon(std::string_view label, int x, int y, int width, int height,
                                std::string_view image);
     void placeStripMarker(int weaponId);
+    void centreStripName();
     void updateStatusColumn(const HudPlayer& player);
     void updateWeaponPanel(const HudPlayer& player);
     void updateWeaponStripAlpha();

@@ -179,6 +179,8 @@ void GameHUD::buildUpgradeScreen() {
 void GameHUD::onResize() {
     if (!upgradeBackground_)
         return;
+    if (!stripName_->text().empty())
+        centreStripName();
     // Letters grow by whole steps, so the height of a line in design units follows the window.
     const auto lineHeight = [this](const TextHudItem& item) {
         return static_cast<float>(item.lineHeight() * canvasHeight) /

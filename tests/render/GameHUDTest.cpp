@@ -183,6 +183,10 @@ TEST_F(GameHUDTest, StripStaysTwoSecondsFromTheLastChange) {
     EXPECT_EQ(text("strip name"), "Weapon 4");
     EXPECT_EQ(item("strip name").pixels().x, 320 - 36);
     EXPECT_EQ(item("strip name").pixels().y, 444);
+    hud.resize(1024, 480);
+    EXPECT_EQ(item("strip name").pixels().x, (320 - 22) * 1024 / 640);
+    hud.resize(640, 480);
+    EXPECT_EQ(item("strip name").pixels().x, 320 - 36);
     updateAt(2500);
     EXPECT_TRUE(shown("strip 1"));
     hud.weaponSelected(11);
