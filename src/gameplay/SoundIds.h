@@ -36,8 +36,15 @@ inline constexpr int quadEnd = 27;
 inline constexpr int jumpPad = 28;
 inline constexpr int megaHealth = 29;
 inline constexpr int upgrade = 30;
+inline constexpr int alarm = 32;
 inline constexpr int switchOn = 33;
 inline constexpr int plasmaPistolFire = 34;
 inline constexpr int melee = 36;
+inline constexpr int zap = 37;
+inline constexpr int gridOn = 38;
+inline constexpr int gridOff = 39;
+inline constexpr int eggCrack = 40;
+inline constexpr int hatch = 41;
+inline constexpr int repair = 42;
 
 }  // namespace bc::sound
