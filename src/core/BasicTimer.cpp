@@ -12,6 +12,7 @@ namespace bc {
 void BasicTimer::restart() {
     rate = 1000;
     running = true;
+    paused = false;
     start = current = previous = ticksNow();
 }
 
@@ -48,6 +49,7 @@ void BasicTimer::fromString(std::string_view text) {
         rate = parseFloat(fields[3]);
         running = parseBool(fields[4]);
     }
+    paused = false;
     const float now = ticksNow();
     start = now - (current - start);
     previous = now - (current - previous);

@@ -19,7 +19,7 @@ struct BasicTimer {
     float pauseTime = 0;
     bool paused = false;
 
-    /// start = current = previous = now, running, at 1000 ms a second.
+    /// start = current = previous = now, running and not paused, at 1000 ms a second.
     void restart();
     void tick();
     void pause();
@@ -33,7 +33,7 @@ struct BasicTimer {
     /// "start,current,previous,rate,running" with running as true or false.
     [[nodiscard]] std::string toString() const;
     /// Reads the text form (fewer than five fields: the fields stay) and moves the times so that
-    /// current is now and the elapsed time is what it was.
+    /// current is now and the elapsed time is what it was; not paused.
     void fromString(std::string_view text);
 };
 

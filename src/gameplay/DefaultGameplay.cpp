@@ -261,7 +261,10 @@ void DefaultGameplay::loadGameplayState(const TiXmlElement& node) {
 }
 
 void DefaultGameplay::beforeSave() {
-    // The pass that saves counts as level time, so it is in the save as well.
+    // The pass that saves counts as level time, so it is in the save as well. The clocks of a
+    // paused game stand.
+    if (levelClock().paused)
+        return;
     tickClock();
     if (raceActive_)
         raceClock_.tick();
