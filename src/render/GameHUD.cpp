@@ -27,6 +27,12 @@ constexpr std::size_t longestMessage = 512;
 
 const std::string pulseImage = "data/particles/cloud.png";
 
+// What lies behind the values, so that they are read before bright scenery too.
+const std::string shadeImage = "data/images/hudshade.png";
+constexpr int shadeAlpha = 125;
+/// How far the picture reaches around its even middle on each side, in sizes of the middle.
+constexpr float shadeFringe = 0.3F;
+
 std::string wholeSeconds(float ms) {
     return std::to_string(static_cast<int>(ms / 1000));
 }
@@ -44,7 +50,36 @@ GameHUD::GameHUD() {
 void GameHUD::draw(IRenderer& renderer, float dt) {
     drawLowHealthFlash(renderer, dt);
     updateUpgradeColours();
+    drawShades(renderer);
     Hud::draw(renderer, dt);
+}
+
+// In design units, from the top of the canvas down.
+void GameHUD::drawShades(IRenderer& renderer) const {
+    if (items().empty())
+        return;
+    renderer.begin2D();
+    renderer.setColour(0, 0, 0, shadeAlpha);
+    const ImageHudItem* lowest = swarm_.icon;
+    for (const Readout* row : {&quad_, &invincibility_, &race_})
+        if (row->icon->visible)
+            lowest = row->icon;
+    shade(renderer, 8, 100, lowest->design().y - lowest->design().height);
+    shade(renderer, 500, 630, message1_->visible ? message1_->design().y : weaponName_->design().y);
+    if (stripName_->visible)
+        shade(renderer, 150, 490, stripName_->design().y);
+    renderer.end2D();
+}
+
+void GameHUD::shade(IRenderer& renderer, int left, int right, int bottom) const {
+    const float x = static_cast<float>(windowWidth()) / canvasWidth;
+    const float y = static_cast<float>(windowHeight()) / canvasHeight;
+    constexpr float top = canvasHeight;
+    const float width = static_cast<float>(right - left) * x;
+    const float height = (top - static_cast<float>(bottom)) * y;
+    renderer.drawImage(static_cast<float>(left) * x - width * shadeFringe,
+                       top * y + height * shadeFringe, 0, width * (1 + 2 * shadeFringe),
+                       height * (1 + 2 * shadeFringe), shadeImage, false, true);
 }
 
 void GameHUD::update(float) {

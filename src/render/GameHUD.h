@@ -84,6 +84,9 @@ class GameHUD final : public Hud {
     void updateUpgradeColours();
     void showUpgradeScreen(bool shown);
     void drawLowHealthFlash(IRenderer& renderer, float dt);
+    void drawShades(IRenderer& renderer) const;
+    /// Darkens a place at the top of the canvas.
+    void shade(IRenderer& renderer, int left, int right, int bottom) const;
     [[nodiscard]] float designWidth(const TextHudItem& item, std::string_view text) const;
     [[nodiscard]] float designHeight(const TextHudItem& item) const;
     [[nodiscard]] float now() const { return levelTimeMs_ ? levelTimeMs_() : 0.0F; }
