@@ -11,6 +11,7 @@
 #include "core/Ticks.h"
 #include "resources/ResourceManager.h"
 
+#include <csignal>
 #include <cstdio>
 #include <ctime>
 #include <string>
@@ -51,6 +52,8 @@ int main(int argc, char** argv) {
         std::printf("Brightclash %s\n", bc::versionText());
         return 0;
     }
+    // A file that grows too large fails like one on a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     if (!bc::chooseFolders(*options, error)) {
         std::fprintf(stderr, "brightclash: %s\n", error.c_str());
         return 2;

@@ -2,12 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "render/DevilImage.h"
 
+#include "core/Log.h"
 #include "render/Image.h"
 #include "resources/FileSystem.h"
 
 #include <IL/ilu.h>
 
+#include <cstddef>
+#include <string_view>
+
 namespace bc {
+
+namespace {
+
+/// More than what a PNG holds beside its picture.
+constexpr std::size_t headerRoom = 65536;
+
+}  // namespace
 
 void startDevil() {
     static const bool started = [] {
@@ -47,10 +58,19 @@ bool DevilImage::assign(const Image& picture) const {
 }
 
 bool DevilImage::savePng(const std::string& name) const {
-    return files::replaceBy(name, [this](const std::string& path) {
-        bind();
-        return ilSave(IL_PNG, path.c_str()) != IL_FALSE;
-    });
+    bind();
+    // The library does not notice that a disk is full, so it writes to memory only. Data that do
+    // not pack grow by less than a hundredth; a row begins with the number of its filter.
+    const auto width = static_cast<std::size_t>(ilGetInteger(IL_IMAGE_WIDTH));
+    const auto height = static_cast<std::size_t>(ilGetInteger(IL_IMAGE_HEIGHT));
+    const std::size_t unpacked = (3 * width + 1) * height;
+    std::string png(unpacked + unpacked / 100 + headerRoom, '\0');
+    const std::size_t size = ilSaveL(IL_PNG, png.data(), static_cast<ILuint>(png.size()));
+    if (size == 0 || size >= png.size()) {
+        logLine("Could not pack the picture for " + name);
+        return false;
+    }
+    return files::replace(name, std::string_view(png).substr(0, size));
 }
 
 }  // namespace bc

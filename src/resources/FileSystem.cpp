@@ -68,14 +68,18 @@ bool writeWhole(int fd, std::string_view bytes) {
     return true;
 }
 
+/// Writes a file and flushes it to the disk.
 bool writeNewFile(const std::string& path, std::string_view contents) {
-    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    return file.get() >= 0 && writeWhole(file.get(), contents) && file.close();
+    ::unlink(path.c_str());  // left behind by a crash
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    return file.get() >= 0 && writeWhole(file.get(), contents) && ::fsync(file.get()) == 0 &&
+           file.close();
 }
 
-bool flushToDisk(const std::string& path, int flags) {
-    Descriptor file(::open(path.c_str(), flags | O_CLOEXEC));
-    return file.get() >= 0 && ::fsync(file.get()) == 0;
+void flushFolder(const std::string& path) {
+    const Descriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.get() >= 0)
+        ::fsync(folder.get());
 }
 
 void logFailure(const std::string& what, std::string_view name, int error) {
@@ -174,24 +178,15 @@ std::optional<std::string> readAll(std::string_view name, std::uint64_t maxBytes
 }
 
 bool replace(std::string_view name, std::string_view contents) {
-    return replaceBy(name, [&](const std::string& temporaryPath) {
-        return writeNewFile(temporaryPath, contents);
-    });
-}
-
-bool replaceBy(std::string_view name,
-               const std::function<bool(const std::string& temporaryPath)>& writer) {
     const std::optional<std::string> path = writable(name);
     if (!path)
         return false;
     const std::string temporary = *path + ".new";
-    ::unlink(temporary.c_str());  // left behind by a crash
     errno = 0;
     // The bytes must be on the disk before the name points at them, and the folder's entry
     // after that: only then does a crash at any moment leave one whole file.
-    if (writer(temporary) && flushToDisk(temporary, O_WRONLY) &&
-        ::rename(temporary.c_str(), path->c_str()) == 0) {
-        flushToDisk(fs::path(*path).parent_path().string(), O_RDONLY | O_DIRECTORY);
+    if (writeNewFile(temporary, contents) && ::rename(temporary.c_str(), path->c_str()) == 0) {
+        flushFolder(fs::path(*path).parent_path().string());
         return true;
     }
     const int error = errno;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,10 +39,6 @@ void setFolders(const std::string& userFolder, const std::string& dataFolder);
 /// is there, whole: written beside it, flushed to disk, renamed over it. On failure the old file
 /// stays, a log line says why, and the result is false.
 bool replace(std::string_view name, std::string_view contents);
-/// The same for contents that a library writes itself: writer is given the path beside the target
-/// and tells whether it succeeded.
-bool replaceBy(std::string_view name,
-               const std::function<bool(const std::string& temporaryPath)>& writer);
 /// Appends text to a file of the user folder, made when missing.
 bool append(std::string_view name, std::string_view text);
 

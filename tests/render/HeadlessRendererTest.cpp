@@ -293,6 +293,12 @@ TEST_F(HeadlessRendererTest, ThumbnailsAreSavedOnceAndDropTheOldOneFromTheCache)
     EXPECT_FALSE(renderer.saveThumbnail("saves/b.png", 320, 240));
     renderer.grabThumbnail();
     logOf([this] { EXPECT_FALSE(renderer.saveThumbnail("../out.png", 320, 240)); });
+    renderer.grabThumbnail();
+    logOf([this] {
+        const FullDisk full(300);
+        EXPECT_FALSE(renderer.saveThumbnail("saves/a.png", 320, 240));
+    });
+    EXPECT_TRUE(loadImage("saves/a.png")) << "the old picture stays";
 }
 
 }  // namespace

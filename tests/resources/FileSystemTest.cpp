@@ -6,9 +6,6 @@
 
 #include <gmock/gmock.h>
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace bc {
 namespace {
 
@@ -58,48 +55,17 @@ TEST_F(FileSystemTest, RefusedNamesAreToldOnOneLine) {
     EXPECT_FALSE(fs::exists(user() + "/../a\nb"));
 }
 
-TEST_F(FileSystemTest, ReplacedFileIsTheOldOneOrTheNewOneWhole) {
-    put(user() + "/save.xml", "old");
-    // At the moment of writing the old file stands untouched.
-    ASSERT_TRUE(files::replaceBy("save.xml", [&](const std::string& beside) {
-        EXPECT_NE(beside, user() + "/save.xml");
-        put(beside, "new, half");
-        EXPECT_EQ(get(user() + "/save.xml"), "old");
-        put(beside, "new, whole");
-        return true;
-    }));
-    EXPECT_EQ(get(user() + "/save.xml"), "new, whole");
-
-    const std::string log = logOf([&] {
-        EXPECT_FALSE(files::replaceBy("save.xml", [](const std::string& beside) {
-            put(beside, "broken");
-            return false;
-        }));
-        EXPECT_FALSE(files::replaceBy("save.xml", [](const std::string&) { return true; }))
-            << "a writer that wrote nothing";
-    });
-    EXPECT_THAT(log, HasSubstr("Could not write save.xml"));
-    EXPECT_EQ(get(user() + "/save.xml"), "new, whole");
-    EXPECT_EQ(std::distance(fs::directory_iterator(user()), fs::directory_iterator()), 1)
-        << "nothing is left beside it";
-}
-
 TEST_F(FileSystemTest, FullDiskLeavesTheOldFile) {
     put(user() + "/save.xml", "old");
-    rlimit before{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit small = before;
-    small.rlim_cur = 1000;
     bool written = true;
     bool appended = true;
     // The log would not fit either; it goes nowhere meanwhile.
     testing::internal::CaptureStdout();
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    written = files::replace("save.xml", std::string(5000, 'x'));
-    appended = files::append("log.txt", std::string(5000, 'x'));
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, handler);
+    {
+        const FullDisk full(1000);
+        written = files::replace("save.xml", std::string(5000, 'x'));
+        appended = files::append("log.txt", std::string(5000, 'x'));
+    }
     testing::internal::GetCapturedStdout();
     EXPECT_FALSE(written);
     EXPECT_FALSE(appended);
@@ -108,14 +74,12 @@ TEST_F(FileSystemTest, FullDiskLeavesTheOldFile) {
 }
 
 TEST_F(FileSystemTest, LeftoverOfACrashIsInNobodysWay) {
-    put(user() + "/save.xml.new", "half of something");
-    EXPECT_TRUE(files::replaceBy("save.xml", [](const std::string& beside) {
-        EXPECT_FALSE(fs::exists(beside)) << "a library may refuse to overwrite";
-        put(beside, "new");
-        return true;
-    }));
+    put(user() + "/save.xml", "old");
+    put(user() + "/save.xml.new", "half of something longer");
+    EXPECT_TRUE(files::replace("save.xml", "new"));
     EXPECT_EQ(get(user() + "/save.xml"), "new");
-    EXPECT_FALSE(fs::exists(user() + "/save.xml.new"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(user()), fs::directory_iterator()), 1)
+        << "nothing is left beside it";
 }
 
 }  // namespace

@@ -6,14 +6,38 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace bc {
+
+/// While it lives, files cannot grow beyond some bytes, as on a disk that is full. The log is such
+/// a file as well.
+class FullDisk {
+  public:
+    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit limit = before_;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
 
 /// A user folder and a data folder of the test's own, empty at its start.
 class TestFolders : public testing::Test {
