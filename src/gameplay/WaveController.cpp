@@ -85,7 +85,6 @@ void WaveController::readWaves() {
 void WaveController::onTriggered(GameBody* /*activator*/) {
     active = true;
     startTime = levelTime();
-    firedUntil_ = 0;
 }
 
 void WaveController::think(float dt) {
@@ -93,7 +92,7 @@ void WaveController::think(float dt) {
     if (!active)
         return;
     const float elapsed = levelTime() - startTime;
-    firedUntil_ = elapsed;
+    firedUntil_ = std::max(firedUntil_, elapsed);
     while (next_ < events_.size() && events_[next_].time < elapsed)
         if (GameBody* body = events_[next_++].body)
             body->trigger(this);

@@ -42,7 +42,7 @@ class WaveController final : public GameBody {
     /// By time; those before next_ have been carried out.
     std::vector<Event> events_;
     std::size_t next_ = 0;
-    /// Milliseconds since startTime up to which events have been carried out.
+    /// Milliseconds up to which events have been carried out; being started again undoes nothing.
     float firedUntil_ = 0;
 };
 

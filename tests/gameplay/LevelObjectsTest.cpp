@@ -177,6 +177,19 @@ TEST_F(LevelObjectsTest, WavesFollowTheirTimetable) {
     EXPECT_LE(late->times[0] - start, 1225);
     stepMsecs(1000);
     EXPECT_EQ(early->times.size(), 1U);
+
+    // Started again it has nothing left to do, and a saved game does not bring it back.
+    waves->trigger(player);
+    stepMsecs(300);
+    TiXmlElement saved("custom");
+    waves->saveState(saved);
+    auto restored = std::make_unique<WaveController>();
+    restored->applyAttributes({{"wavefile", "waves/w.xml"}});
+    restored->loadState(saved);
+    add(std::move(restored), away);
+    stepMsecs(2000);
+    EXPECT_EQ(early->times.size(), 1U);
+    EXPECT_EQ(late->times.size(), 1U);
 }
 
 TEST_F(LevelObjectsTest, ABarrelTakesItsNeighboursAlong) {
