@@ -34,6 +34,9 @@ ObjectValues::ObjectValues(const MapObject& object, const BodyType& type,
             faults_.push_back("needs the property " + param.name);
     }
     settleTexture();
+    // What moves has its place to remember.
+    if (number("mass") > 0 && object.properties.count("entity") == 0)
+        values_["entity"] = "true";
     if (type.name == "levelchange" && text(flag("iscutscene") ? "cutscene" : "leveltarget").empty())
         faults_.emplace_back("leads nowhere: set leveltarget, or iscutscene and cutscene");
 }
