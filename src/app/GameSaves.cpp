@@ -70,11 +70,12 @@ void Game::saveGame() {
     player_->saveState(*player);
     TiXmlPrinter printer;
     document.Accept(&printer);
-    if (!files::replace(path, printer.CStr()))
-        consolePrint("Can't write save file: " + path);
     if (!gui_->isVisible())
         renderer_->grabThumbnail();
-    renderer_->saveThumbnail(savePath(saveName_, ".png"), thumbnailWidth, thumbnailHeight);
+    if (files::replace(path, printer.CStr()))
+        renderer_->saveThumbnail(savePath(saveName_, ".png"), thumbnailWidth, thumbnailHeight);
+    else
+        consolePrint("Can't write save file: " + path);
     // The clocks of a paused game stand; going on takes the whole pause out of them.
     if (paused_)
         return;
