@@ -47,9 +47,10 @@ fs::path personalFolder() {
 bool chooseFolders(const Options& options, std::string& error) {
     fs::path user = options.userFolder;
     fs::path data = options.dataFolder;
-    const bool here = user.empty() && data.empty() && isGameFolder(".");
+    const bool here = isGameFolder(".");
+    // Beside other data than the working folder's, its own must not lie over them.
     if (user.empty())
-        user = here ? fs::path(".") : personalFolder();
+        user = here && data.empty() ? fs::path(".") : personalFolder();
     if (data.empty())
         data = here ? fs::path(".") : shippedFolder();
     std::error_code problem;
