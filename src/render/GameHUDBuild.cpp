@@ -124,7 +124,7 @@ void GameHUD::buildWeaponPanel() {
     message1_->visible = false;
     message2_ = make<TextHudItem>("message 2");
     setUpText(*message2_, 0, 0, 18, red, false);
-    message2_->plate = true;
+    message2_->outline = true;
     message2_->visible = false;
 }
 

@@ -14,7 +14,6 @@ namespace {
 
 /// Pixels that stay free between a text and the right edge of the window.
 constexpr float edge = 4;
-constexpr int plateAlpha = 150;
 
 }  // namespace
 
@@ -73,15 +72,12 @@ float TextHudItem::widthOf(FontRenderer& fonts, std::string_view text) const {
     return width;
 }
 
-void TextHudItem::drawPlate(IRenderer& renderer, float x, float y, float width) const {
-    const auto line = static_cast<float>(lineHeight());
-    const float side = line / 2;
-    renderer.setTexturing(false);
-    renderer.setBlending(true);
-    renderer.setAlphaBlend();
-    renderer.setColour(0, 0, 0, plateAlpha);
-    // Letters reach below their line as well.
-    renderer.drawQuad(x - side, y + line * 1.15F, 0, width + 2 * side, line * 1.7F);
+void TextHudItem::drawOutline(FontRenderer& fonts, float x, float y) const {
+    const auto width = static_cast<float>(textScale());
+    for (const float dx : {-width, 0.0F, width})
+        for (const float dy : {-width, 0.0F, width})
+            if (dx != 0 || dy != 0)
+                fonts.drawText(x + dx, y + dy, text_);
 }
 
 void TextHudItem::draw(IRenderer& renderer, float) {
@@ -90,17 +86,19 @@ void TextHudItem::draw(IRenderer& renderer, float) {
         return;
     auto x = static_cast<float>(pixels().x);
     const auto y = static_cast<float>(pixels().y);
-    const float width = widthOf(*fonts, text_);
     // A long line would be cut off at the right of a small window.
-    const float beyond = x + width + edge - static_cast<float>(renderer.getWidth());
+    const float beyond =
+        x + widthOf(*fonts, text_) + edge - static_cast<float>(renderer.getWidth());
     if (beyond > 0)
         x = std::max(x - beyond, 0.0F);
-    if (plate)
-        drawPlate(renderer, x, y, width);
     renderer.setTexturing(true);
-    renderer.setColour(colour());
     const float scale = fonts->getScale();
     chooseFont(*fonts);
+    if (outline) {
+        renderer.setColour(0, 0, 0, static_cast<int>(colour().a));
+        drawOutline(*fonts, x, y);
+    }
+    renderer.setColour(colour());
     if (shadow)
         fonts->drawShadowText(x, y, text_);
     else

@@ -84,12 +84,12 @@ class TextHudItem : public HudItem {
 
     /// White over black, without regard to the item's colour.
     bool shadow = false;
-    /// Darkens what lies behind the letters, for a colour that does not stand out by itself.
-    bool plate = false;
+    /// Puts a black edge around the letters, for a colour that does not stand out by itself.
+    bool outline = false;
 
   private:
     void chooseFont(FontRenderer& fonts) const;
-    void drawPlate(IRenderer& renderer, float x, float y, float width) const;
+    void drawOutline(FontRenderer& fonts, float x, float y) const;
 
     int fontSize_ = 12;
     std::string fontName_ = "vera";
