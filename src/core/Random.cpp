@@ -8,8 +8,8 @@ namespace bc {
 
 namespace {
 
-// A linear congruential generator modulo 2^32 (multiplier and increment of Knuth's MMIX line,
-// low half); the upper bits are the good ones and only they are handed out.
+// A linear congruential generator modulo 2^32, with Knuth's multiplier and Lewis's increment; the
+// upper bits are the good ones and only they are handed out.
 constexpr std::uint32_t multiplier = 1664525U;
 constexpr std::uint32_t increment = 1013904223U;
 
