@@ -38,6 +38,8 @@ void Player::drawExtras(IRenderer& renderer) {
         drawRope(renderer);
     if (!hasInvinc && !hasQuad)
         return;
+    // As the sparks around them lie at the same depth, they would be cut off at the pulse's edges.
+    renderer.setDepthWrite(false);
     renderer.setBlending(true);
     renderer.setAdditiveBlend();
     renderer.bindTexture(pulseTexture, true);
@@ -50,6 +52,7 @@ void Player::drawExtras(IRenderer& renderer) {
         drawPulse(renderer, renderpos, pulseLong, pulseShort);
     }
     renderer.setAlphaBlend();
+    renderer.setDepthWrite(true);
 }
 
 void Player::drawRope(IRenderer& renderer) {
@@ -57,6 +60,7 @@ void Player::drawRope(IRenderer& renderer) {
     const Vector along = normalised(Vector(ropeEnd.x - renderpos.x, ropeEnd.y - renderpos.y));
     const Vector from = renderpos + along * (radius - ropeInset);
     const Vector to = ropeEnd - along * ropeGap;
+    renderer.setDepthWrite(false);
     renderer.setBlending(true);
     renderer.setAlphaBlend();
     renderer.bindTexture(ropeTexture, false);
@@ -65,6 +69,7 @@ void Player::drawRope(IRenderer& renderer) {
     else
         renderer.setColour(0, 255, 255, alpha);
     renderer.drawSegmentedBeam(from, to, from.z + effectRaise, ropeWidth, ropePiece, true);
+    renderer.setDepthWrite(true);
 }
 
 int Player::hudHealth() const {
