@@ -50,6 +50,7 @@ bool PistolWeapon::fire(GameBody* shooter, const Vector& position, const Vector&
     InstantShot shot(*this, shooter, position, aim, false);
     shot.traceFirst("pistol", shooter, damageBy(shooter), damage::pistol, knockback);
     shot.bulletEffects();
+    startParticles("pistolflash", shot.start);
     playFiringSound(sound::pistolFire, enemyChannelA, position);
     return true;
 }
@@ -81,6 +82,7 @@ bool ShotgunWeapon::fire(GameBody* shooter, const Vector& position, const Vector
         pellet.traceFirst("shotgun", shooter, points, damage::shotgun, knockback);
         pellet.bulletEffects();
     }
+    startParticles("shotgunflash", muzzleOf(shooter, position, aim, InstantShot::muzzleInset));
     playFiringSound(sound::shotgunFire, enemyChannelB, position);
     return true;
 }
@@ -102,6 +104,7 @@ bool ChaingunWeapon::fire(GameBody* shooter, const Vector& position, const Vecto
     InstantShot shot(*this, shooter, position, aim, true);
     shot.traceFirst("chaingun", shooter, damageBy(shooter), damage::chaingun, knockback);
     shot.bulletEffects();
+    startParticles("chaingunflash", shot.start);
     const int r = randomInt() % chaingunSounds;
     playFiringSound(sound::chaingunFire + r, r % 2 == 0 ? enemyChannelA : enemyChannelB, position);
     return true;
