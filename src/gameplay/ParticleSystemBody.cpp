@@ -109,7 +109,7 @@ void ParticleSystemBody::dumpState(TiXmlElement& debug) const {
     xml::writeBool(debug, "on", on);
     xml::writeBool(debug, "triggered", triggered);
     xml::writeFloat(debug, "reverttime", revertAt);
-    xml::writeInt(debug, "system", runningSystem_);
+    xml::writeBool(debug, "running", particleManager().find(runningSystem_) != nullptr);
 }
 
 }  // namespace bc

@@ -58,7 +58,7 @@ void SoundBody::think(float dt) {
 
 void SoundBody::dumpState(TiXmlElement& debug) const {
     GameBody::dumpState(debug);
-    xml::writeInt(debug, "channel", channel_);
+    xml::writeBool(debug, "playing", channel_ != none);
 }
 
 }  // namespace bc

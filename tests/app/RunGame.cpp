@@ -66,6 +66,8 @@ int RunGame::run(std::vector<std::string> args) {
         const int out = open(errorFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
         dup2(out, STDERR_FILENO);
         dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
+        for (std::string& variable : environment)
+            putenv(variable.data());
         execv(argv[0], argv.data());
         _exit(127);
     }

@@ -34,6 +34,8 @@ class RunGame {
 
     /// The game's data folder; the built one unless changed.
     std::filesystem::path data;
+    /// "NAME=value" of each variable that the program's runs get beside those of the test.
+    std::vector<std::string> environment;
 
   private:
     std::filesystem::path folder_;

@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+// Saves of whole runs: what goes on from one, and what is left when writing one fails.
+#include "RunGame.h"
+
+#include <gtest/gtest.h>
+#include <tinyxml.h>
+
+#include <filesystem>
+#include <sstream>
+
+namespace bc {
+namespace {
+
+constexpr const char* settings = "data/config.txt";
+
+/// The bodies and the race of a world dump, which is what a save is to bring back. Pictures of
+/// what happens (particles, messages) are not.
+std::string played(const std::string& dump) {
+    TiXmlDocument document;
+    document.Parse(dump.c_str());
+    std::string text;
+    for (const char* part : {"Objects", "Race"})
+        if (document.RootElement() != nullptr)
+            if (const TiXmlElement* e = document.RootElement()->FirstChildElement(part)) {
+                TiXmlPrinter printer;
+                e->Accept(&printer);
+                text += printer.CStr();
+            }
+    return text;
+}
+
+/// The first line that differs, of either.
+std::string difference(const std::string& a, const std::string& b) {
+    std::istringstream left(a);
+    std::istringstream right(b);
+    std::string l;
+    std::string r;
+    while (std::getline(left, l) && std::getline(right, r))
+        if (l != r)
+            return l + '\n' + r;
+    return "the same as far as both go";
+}
+
+struct Continuation {
+    const char* level;
+    /// Passes before and after the save.
+    const char* before;
+    int savedAt;
+    const char* after;
+    int end;
+};
+
+class SaveContinuation : public testing::TestWithParam<Continuation> {};
+
+// The one run saves at a pass and goes on; the other starts from the save. The pass that saves
+// simulates nothing, nor does the one that loads.
+TEST_P(SaveContinuation, IsTheSameRun) {
+    const Continuation& c = GetParam();
+    const auto shifted = [&](int by) {
+        std::istringstream lines(c.after);
+        std::string text;
+        int pass = 0;
+        for (std::string rest; lines >> pass && std::getline(lines, rest);)
+            text += std::to_string(pass + by) + rest + '\n';
+        return text + std::to_string(c.end + by) + " dumpworld\n";
+    };
+    RunGame whole;
+    const std::string aim = "0 @move 900 380\n0 god\n";
+    whole.script(aim + c.before + std::to_string(c.savedAt) + " savegame mid\n" +
+                 shifted(c.savedAt));
+    ASSERT_EQ(whole.headless({"--frames", std::to_string(c.savedAt + c.end + 1), "+map", c.level}),
+              0);
+    const std::string saved = whole.read("saves/mid.xml");
+    ASSERT_FALSE(saved.empty());
+
+    RunGame continued;
+    continued.write("saves/mid.xml", saved);
+    continued.script("0 loadgame mid\n" + aim + shifted(0));
+    // Another seed: the save knows where the sequence was.
+    ASSERT_EQ(continued.run({"--headless", "--seed", "77", "--frames", std::to_string(c.end + 1)}),
+              0);
+    const std::string one = played(whole.read("worlddump.xml"));
+    const std::string other = played(continued.read("worlddump.xml"));
+    EXPECT_GT(one.size(), 10000U);
+    EXPECT_TRUE(one == other) << difference(one, other);
+}
+
+constexpr const char* fightingOn =
+    "10 +moveright\n60 -moveright\n61 +attack\n90 -attack\n100 +moveup\n130 -moveup\n";
+
+INSTANTIATE_TEST_SUITE_P(
+    Levels, SaveContinuation,
+    testing::Values(
+        // Rockets and grenades in the air, crates falling.
+        Continuation{"hangar",
+                     "0 give all\n4 +moveright\n40 -moveright\n41 useitem rocketlauncher\n"
+                     "42 +attack\n60 -attack\n62 +moveup\n85 -moveup\n"
+                     "90 useitem grenadelauncher\n91 +attack\n99 -attack\n",
+                     100, fightingOn, 300},
+        // Doors moving, pickups away, messages and waves to come, a race under way.
+        Continuation{"workshop",
+                     "5 warpto take_health\n10 warpto take_cash\n16 warpto take_quad\n"
+                     "22 warpto take_armour\n28 warpto take_shotgun\n34 warpto slow_switch\n"
+                     "40 warpto group_trigger\n46 warpto chain_trigger\n52 warpto trigger_again\n"
+                     "58 warpto messenger_trigger\n64 warpto wave_switch\n70 warpto barrel_1\n"
+                     "76 warpto drop_switch\n82 warpto switch_again\n88 warpto switch_door\n"
+                     "94 warpto race_start\n100 warpto race_check\n101 killvelocity\n"
+                     "104 +attack\n116 -attack\n",
+                     118, fightingOn, 500}));
+
+/// The game with an old save and old settings, about to write new ones.
+void prepare(const RunGame& game) {
+    game.write("saves/s.xml", "<save><old/></save>");
+    game.write("saves/s.png", "old picture");
+    game.write(settings, "con_height 0.3\n");
+    std::filesystem::remove(game.folder() / "outputlog.txt");
+}
+
+constexpr const char* writing = "0 map hangar\n1 set con_height 0.7\n2 savegame s\n";
+
+TEST(Saves, AreWholeWheneverTheProcessDies) {
+    RunGame game;
+    game.script(writing);
+    prepare(game);
+    const std::vector<const char*> files = {"saves/s.xml", "saves/s.png", settings};
+    std::vector<std::string> before;
+    for (const char* file : files)
+        before.push_back(game.read(file));
+    ASSERT_EQ(game.headless({"--frames", "5"}), 0);
+    std::vector<std::string> after;
+    for (const char* file : files)
+        after.push_back(game.read(file));
+    ASSERT_NE(before, after);
+
+    int deaths = 0;
+    for (int at = 1; at < 100; ++at) {
+        prepare(game);
+        game.environment = {"LD_PRELOAD=" FAILING_WRITES, "FAIL_HOW=die",
+                            "FAIL_AT=" + std::to_string(at)};
+        const int status = game.headless({"--frames", "5"});
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            const std::string found = game.read(files[i]);
+            EXPECT_TRUE(found == before[i] || found == after[i]) << files[i] << " at " << at;
+        }
+        if (status == 0)
+            break;
+        ASSERT_EQ(status, 137);
+        ++deaths;
+    }
+    // Each of the three files is made, written, flushed and renamed.
+    EXPECT_GE(deaths, 10);
+    // What a death left behind is in nobody's way.
+    for (const char* file : files)
+        EXPECT_FALSE(game.has(std::string(file) + ".new"));
+}
+
+TEST(Saves, AFullDiskAndAFolderThatIsNoneAreToldOf) {
+    RunGame game;
+    game.script(writing);
+    prepare(game);
+    game.environment = {"LD_PRELOAD=" FAILING_WRITES, "FAIL_HOW=full", "FAIL_AT=1"};
+    EXPECT_EQ(game.headless({"--frames", "5"}), 0);
+    EXPECT_NE(game.log().find("Could not write saves/s.xml"), std::string::npos);
+    EXPECT_NE(game.log().find("No space left"), std::string::npos);
+    EXPECT_EQ(game.read("saves/s.xml"), "<save><old/></save>");
+    EXPECT_EQ(game.read(settings), "con_height 0.3\n");
+
+    RunGame closed;
+    closed.write("saves", "a file where the folder should be");
+    closed.script(writing);
+    EXPECT_EQ(closed.headless({"--frames", "5"}), 0);
+    EXPECT_NE(closed.log().find("Could not write saves/s.xml"), std::string::npos);
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
+        text.replace(at, what.size(), by);
+    return text;
+}
+
+TEST(Saves, BadOnesLeaveTheRunningLevelOrLoadWhatTheyCan) {
+    RunGame maker;
+    maker.script("0 map hangar\n2 savegame s\n");
+    ASSERT_EQ(maker.headless({"--frames", "4"}), 0);
+    const std::string good = maker.read("saves/s.xml");
+    std::string crowd;
+    for (int i = 0; i < 10000; ++i)
+        crowd += "<P type='health' idname='h'><params entity='true' mass='0'/><verts><v origin='" +
+                 std::to_string(100 + i % 1000) + ',' + std::to_string(100 + i / 10) +
+                 ",0'/></verts></P>";
+    struct Case {
+        const char* name;
+        std::string text;
+        bool loads;
+    };
+    const std::vector<Case> cases = {
+        {"empty", "", false},
+        {"truncated", good.substr(0, good.size() / 2), false},
+        {"binary", std::string("\x89PNG\0\1", 6), false},
+        {"bare", "<save/>", false},
+        {"nolevel", replaced(good, "currentlevel=\"hangar\"", "currentlevel=\"gone\""), false},
+        {"outside", replaced(good, "currentlevel=\"hangar\"", "currentlevel=\"../../x\""), false},
+        {"nobodies", replaced(good, "Objects", "Things"), false},
+        {"unknown", replaced(good, "type=\"debugmoveable\"", "type=\"nosuch\""), true},
+        {"absurd",
+         replaced(replaced(good, "health=\"100\"", "health=\"99999999999999\""), "vel=\"0,0,0\"",
+                  "vel=\"1e38,nan,-inf\""),
+         true},
+        {"ids", replaced(good, "autoid=\"", "autoid=\"-2147483649"), true},
+        {"order",
+         replaced(replaced(good, "turns=\"", "turns=\"+99999999,,-1,x,2,2,"), "reach=\"",
+                  "reach=\"2,nan,1e30,-1,0;2,1;;9,"),
+         true},
+        {"crowd", replaced(good, "</Objects>", crowd + "</Objects>"), true},
+    };
+    for (const Case& c : cases) {
+        RunGame game;
+        game.write("saves/bad.xml", c.text);
+        game.script("0 map hangar\n3 loadgame bad\n40 dumpworld\n");
+        EXPECT_EQ(game.headless({"--frames", "42"}), 0) << c.name;
+        const bool refused =
+            game.log().find("Can't load save file: saves/bad.xml") != std::string::npos;
+        EXPECT_EQ(refused, !c.loads) << c.name;
+        const std::string dump = game.read("worlddump.xml");
+        EXPECT_NE(dump.find("levelloaded=\"true\""), std::string::npos) << c.name;
+        EXPECT_EQ(dump.find("nan"), std::string::npos) << c.name;
+        // The refused ones left the level that ran: its steps go on counting.
+        EXPECT_EQ(dump.find(" step=\"39\"") != std::string::npos, refused) << c.name;
+    }
+}
+
+}  // namespace
+}  // namespace bc
