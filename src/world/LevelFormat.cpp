@@ -24,6 +24,7 @@ namespace {
 // What a level calls static.
 constexpr float staticMass = 1e-7F;
 constexpr const char* shapeAttribute = "shape";
+constexpr const char* radiusAttribute = "radius";
 
 void readParams(Body& body, const TiXmlElement& e) {
     body.targets = xml::readString(e, "targets");
@@ -161,6 +162,7 @@ void writeShape(const Body& body, TiXmlElement& custom) {
     for (const Vector& corner : body.localVertices)
         corners += formatFloat(corner.x) + ',' + formatFloat(corner.y) + ';';
     xml::writeString(custom, shapeAttribute, corners);
+    xml::writeString(custom, radiusAttribute, formatFloat(body.radius));
 }
 
 void readShape(Body& body, const TiXmlElement& custom) {
@@ -180,6 +182,8 @@ void readShape(Body& body, const TiXmlElement& custom) {
     }
     body.localVertices = std::move(read);
     body.angle = angle;
+    // It never shrinks: what the rounded corners gave it goes.
+    body.radius = std::clamp(xml::readFloat(custom, radiusAttribute), 0.0F, Body::maxCoordinate);
 }
 
 TiXmlElement* writeBody(const Body& body, TiXmlElement& parent) {
