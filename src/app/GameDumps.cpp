@@ -27,7 +27,7 @@
 #include <tinyxml.h>
 
 #include <cmath>
-#include <fstream>
+#include <locale>
 #include <optional>
 #include <sstream>
 
@@ -57,6 +57,24 @@ void report(const std::string& lines, const std::string& file) {
         consolePrint(line);
     }
 }
+
+/// Collects a text that is not complete yet; the file is replaced when the stream goes, unless
+/// nothing came.
+class FileWhenReleased final : public std::ostringstream {
+  public:
+    explicit FileWhenReleased(std::string name) : name_(std::move(name)) {
+        imbue(std::locale::classic());
+    }
+    ~FileWhenReleased() override {
+        if (const std::string text = str(); !text.empty())
+            writeCommandFile(name_, text);
+    }
+    FileWhenReleased(const FileWhenReleased&) = delete;
+    FileWhenReleased& operator=(const FileWhenReleased&) = delete;
+
+  private:
+    std::string name_;
+};
 
 std::string nameOf(const Body& body) {
     return std::to_string(body.autoid) + ' ' + body.type + ' ' + body.id;
@@ -221,15 +239,10 @@ void GameDumps::writeRenderer(TiXmlElement& root) const {
 }
 
 void GameDumps::dumpFrame(const std::string& file) {
-    const auto path = files::writable(file);
-    auto out = std::make_unique<std::ofstream>();
-    if (path)
-        out->open(*path, std::ios::binary | std::ios::trunc);
-    if (!out->is_open()) {
+    if (files::writable(file))
+        game_.renderer_->dumpNextFrame(std::make_unique<FileWhenReleased>(file));
+    else
         reportUnwritable(file);
-        return;
-    }
-    game_.renderer_->dumpNextFrame(std::move(out));
 }
 
 void GameDumps::dumpQuadTree(const std::string& file) {
