@@ -8,7 +8,9 @@
 #include "gameplay/GameplaySingleton.h"
 #include "gameplay/Player.h"
 #include "gameplay/SoundIds.h"
+#include "gameplay/Spawning.h"
 #include "resources/XmlAttributes.h"
+#include "world/World.h"
 
 #include <tinyxml.h>
 
@@ -56,12 +58,22 @@ bool GrappleProjectile::acceptsCollision(const Body& other) const {
     return body == nullptr || !body->team.test(team::enemy | team::player);
 }
 
+void GrappleProjectile::settleAt(float t) {
+    // What it met at the very beginning of a step is noticed only once it is in it.
+    placeAt(*this, t > 0 ? pos + vel * (step_ * t) : oldpos);
+    // Once it holds, no step moves it any more.
+    if (World* world = GameplaySingleton::instance().world())
+        world->quadtree().reinsert(*this);
+}
+
 void GrappleProjectile::onTouch(const TouchInfo& touch) {
     const Body& other = *touch.other;
     if (exploded || &other == GameplaySingleton::instance().player() || !isStoppedBy(other))
         return;
-    if (!holding)
+    if (!holding) {
+        settleAt(touch.t);
         playSoundAt(sound::grappleHold, pos);
+    }
     mass = invMass = 0;
     vel = Vector();
     holding = true;
@@ -69,6 +81,7 @@ void GrappleProjectile::onTouch(const TouchInfo& touch) {
 
 void GrappleProjectile::think(float dt) {
     Projectile::think(dt);
+    step_ = dt;
     // Let go of, it pulls no more.
     if (cancleanup)
         return;

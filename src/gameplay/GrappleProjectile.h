@@ -22,6 +22,14 @@ class GrappleProjectile final : public Projectile {
     /// Units a second.
     float pullSpeed = 600;
     bool holding = false;
+
+  private:
+    /// Takes it to where it meets what it hits, t being TouchInfo::t: at its speed it would hang in
+    /// the air a craft's length before the wall, or be as deep in it.
+    void settleAt(float t);
+
+    /// Length of the simulation step, seconds.
+    float step_ = 0;
 };
 
 }  // namespace bc

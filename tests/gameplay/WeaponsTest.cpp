@@ -238,6 +238,7 @@ TEST_F(WeaponsTest, TheHookPullsThePlayerIn) {
     EXPECT_EQ(game.sound.countOf(3), 1);
     step(13);
     ASSERT_TRUE(player->grappleHook->holding);
+    EXPECT_NEAR(player->grappleHook->pos.x, 284.5F, 2) << "it sits on the wall";
     EXPECT_EQ(game.sound.countOf(20), 1);
     EXPECT_NEAR(player->vel.length(), 600, 10);
     EXPECT_GT(player->vel.x, 0);
