@@ -29,6 +29,7 @@
 #include "gameplay/SoundBody.h"
 #include "gameplay/SpawnPoint.h"
 #include "gameplay/Spawner.h"
+#include "gameplay/SwarmMember.h"
 #include "gameplay/Switch.h"
 #include "gameplay/TargetGroup.h"
 #include "gameplay/Teleporter.h"
@@ -111,6 +112,7 @@ constexpr GameBodyType beforeEnemies[] = {
 };
 
 constexpr GameBodyType afterEnemies[] = {
+    {"swarmmember", "SwarmMember", makeBodyOf<SwarmMember>},
     {"gib", "Gib", makeBodyOf<Gib>},
     {"racecheckpoint", "RaceCheckpoint", makeBodyOf<RaceCheckpoint>},
     {"racestart", "RaceStart", makeBodyOf<RaceStart>},

@@ -92,12 +92,13 @@ constexpr const char* fightingOn =
 INSTANTIATE_TEST_SUITE_P(
     Levels, SaveContinuation,
     testing::Values(
-        // Rockets and grenades in the air, crates falling.
-        Continuation{"hangar",
-                     "0 give all\n4 +moveright\n40 -moveright\n41 useitem rocketlauncher\n"
-                     "42 +attack\n60 -attack\n62 +moveup\n85 -moveup\n"
-                     "90 useitem grenadelauncher\n91 +attack\n99 -attack\n",
-                     100, fightingOn, 300},
+        // A swarm, rockets and grenades in the air, crates falling.
+        Continuation{
+            "hangar",
+            "0 give all\n4 +moveright\n40 -moveright\n41 useitem rocketlauncher\n"
+            "42 +attack\n60 -attack\n62 +moveup\n85 -moveup\n"
+            "86 +fire 10\n88 -fire 10\n90 useitem grenadelauncher\n91 +attack\n99 -attack\n",
+            100, fightingOn, 300},
         // Doors moving, pickups away, messages and waves to come, a race under way.
         Continuation{"workshop",
                      "5 warpto take_health\n10 warpto take_cash\n16 warpto take_quad\n"

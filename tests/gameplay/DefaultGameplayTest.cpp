@@ -57,7 +57,7 @@ TEST_F(DefaultGameplayTest, EnemyTypesComeBetweenTheGamesOwn) {
         return std::find(order.begin(), order.end(), name) - order.begin();
     };
     EXPECT_EQ(placeOf("tester"), placeOf("plasmapistolprojectile") + 1);
-    EXPECT_EQ(placeOf("gib"), placeOf("tester") + 1);
+    EXPECT_EQ(placeOf("swarmmember"), placeOf("tester") + 1);
 }
 
 TEST_F(DefaultGameplayTest, PlacesThePlayerAtANamedOrTheStartPoint) {
