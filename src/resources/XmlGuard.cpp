@@ -34,6 +34,8 @@ class Scanner {
                 return judgeRest(markup);
             if (depth_ > maxXmlDepth)
                 return "elements are nested deeper than " + std::to_string(maxXmlDepth) + " levels";
+            if (++pieces_ > maxXmlPieces)
+                return "more than " + std::to_string(maxXmlPieces) + " tags and attributes";
         }
     }
 
@@ -124,6 +126,7 @@ class Scanner {
                 return false;
             if (!skipName() || !skipValue())
                 return false;
+            ++pieces_;
         }
     }
 
@@ -173,6 +176,7 @@ class Scanner {
     std::size_t at_ = 0;
     int depth_ = 0;
     int attributes_ = 0;
+    int pieces_ = 0;
 };
 
 /// Bytes of a sequence that begins with lead, 0 when none may begin so.

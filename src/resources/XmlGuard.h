@@ -10,7 +10,9 @@ namespace bc {
 /// Deepest nesting of elements that is handed to the parser, which recurses for each level.
 inline constexpr int maxXmlDepth = 256;
 /// Most attributes of one element; the parser compares each with all before it.
-inline constexpr int maxXmlAttributes = 4096;
+inline constexpr int maxXmlAttributes = 256;
+/// Most tags, comments and attributes of a text; each takes the parser up to 250 bytes.
+inline constexpr int maxXmlPieces = 3'000'000;
 
 /// Why a text must not reach the XML parser, or empty when it may. Faults of form are left to the
 /// parser and its messages unless what follows one could still nest too deeply.

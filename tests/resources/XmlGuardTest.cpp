@@ -53,13 +53,21 @@ TEST(XmlGuard, FaultsOfFormAreLeftToTheParser) {
         EXPECT_EQ(xmlRefusal(text), "") << text;
 }
 
-TEST(XmlGuard, RefusesNulBytesAndFloodsOfAttributes) {
+TEST(XmlGuard, RefusesNulBytesAndCrowdsOfAttributes) {
     EXPECT_THAT(xmlRefusal(std::string("<r>\0</r>", 8)), HasSubstr("NUL"));
     std::string attributes;
     for (int i = 0; i < maxXmlAttributes; ++i)
         attributes += " a" + std::to_string(i) + "=''";
     EXPECT_EQ(xmlRefusal("<r" + attributes + "/>"), "");
     EXPECT_THAT(xmlRefusal("<r" + attributes + " more=''/>"), HasSubstr("attributes"));
+}
+
+TEST(XmlGuard, BoundsWhatTheParserWouldTakeInMemory) {
+    const int tags = maxXmlPieces - 2;
+    EXPECT_EQ(xmlRefusal("<r>" + repeated("<b/>", tags) + "</r>"), "");
+    EXPECT_THAT(xmlRefusal("<r>" + repeated("<b/>", tags + 1) + "</r>"), HasSubstr("more than"));
+    EXPECT_THAT(xmlRefusal("<r>" + repeated("<b a='' b=''/>", maxXmlPieces / 3) + "</r>"),
+                HasSubstr("more than"));
 }
 
 TEST(XmlGuard, TellsUtf8FromOtherBytes) {
