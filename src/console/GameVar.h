@@ -22,7 +22,7 @@ class GameVar {
     [[nodiscard]] int intValue() const { return intValue_; }
     [[nodiscard]] float floatValue() const { return floatValue_; }
     [[nodiscard]] const std::string& value() const { return value_; }
-    /// Changes both numbers' integer side only, for settings that are being tried out.
+    /// Puts a value in force that is not the setting: text and float keep what is configured.
     void setIntOnly(int n) { intValue_ = n; }
 
     std::string name;
