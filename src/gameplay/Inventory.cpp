@@ -213,8 +213,9 @@ void Inventory::addAmmo(int ammoId, int n) {
     const int count = ammo(ammoId);
     if (count == infiniteAmmo)
         return;
-    const int cap = count > maxAmmo(ammoId) ? ammoLimit : maxAmmo(ammoId);
-    setAmmo(ammoId, std::min(saturated(0LL + count + n), cap));
+    const int cap = count > maxAmmo(ammoId) ? ammoLimit : std::max(maxAmmo(ammoId), 0);
+    // Taking some away never makes it infinite.
+    setAmmo(ammoId, std::clamp(saturated(0LL + count + n), 0, cap));
 }
 
 void Inventory::setAmmo(int ammoId, int n) {

@@ -3,32 +3,58 @@
 #include "gameplay/WeaponDefinitions.h"
 
 #include "core/Log.h"
+#include "core/Text.h"
 #include "resources/ResourceManager.h"
 #include "resources/XmlAttributes.h"
 
 #include <tinyxml.h>
 
+#include <algorithm>
+
 namespace bc {
 
 namespace {
 
-using xml::readFloat;
-using xml::readInt;
+/// Far beyond any use; what follows from it stays finite.
+constexpr int largest = 1000000;
+
+/// Tells of a number that was cut to its bounds.
+template <class Number>
+Number within(const TiXmlElement& e, const char* name, Number value, Number lowest) {
+    const Number cut = std::clamp(value, lowest, static_cast<Number>(largest));
+    if (cut != value)
+        logLine("Weapon " + e.ValueStr() + ": " + name + ' ' + xml::readString(e, name) +
+                " cut to " + formatFloat(static_cast<float>(cut)));
+    return cut;
+}
+
+int readInt(const TiXmlElement& e, const char* name) {
+    return within(e, name, xml::readInt(e, name), 0);
+}
+
+float readFloat(const TiXmlElement& e, const char* name) {
+    return within(e, name, xml::readFloat(e, name), 0.0F);
+}
+
+/// A negative push pulls.
+float readPush(const TiXmlElement& e, const char* name) {
+    return within(e, name, xml::readFloat(e, name), static_cast<float>(-largest));
+}
 
 void read(const TiXmlElement& e, WeaponDefinitions::Pistol& w) {
     w.damage = readInt(e, "damage");
     w.delay = readFloat(e, "delay");
-    w.knockback = readFloat(e, "knockback");
+    w.knockback = readPush(e, "knockback");
     w.range = readFloat(e, "range");
     w.dualDamage = readFloat(e, "dualdamage");
     w.dualDelay = readFloat(e, "dualdelay");
-    w.dualKnockback = readFloat(e, "dualknockback");
+    w.dualKnockback = readPush(e, "dualknockback");
 }
 
 void read(const TiXmlElement& e, WeaponDefinitions::Scatter& w) {
     w.damage = readInt(e, "damage");
     w.delay = readFloat(e, "delay");
-    w.knockback = readFloat(e, "knockback");
+    w.knockback = readPush(e, "knockback");
     w.range = readFloat(e, "range");
     w.spread = readFloat(e, "spread");
 }
@@ -65,13 +91,13 @@ void read(const TiXmlElement& e, WeaponDefinitions::Rocket& w) {
     w.delay = readFloat(e, "delay");
     w.radius = readFloat(e, "radius");
     w.speed = readFloat(e, "speed");
-    w.knockback = readFloat(e, "knockback");
+    w.knockback = readPush(e, "knockback");
 }
 
 void read(const TiXmlElement& e, WeaponDefinitions::Railgun& w) {
     w.damage = readInt(e, "damage");
     w.delay = readFloat(e, "delay");
-    w.knockback = readFloat(e, "knockback");
+    w.knockback = readPush(e, "knockback");
     w.range = readFloat(e, "range");
 }
 

@@ -54,7 +54,8 @@ struct WeaponDefinitions {
     Scatter lightningGun{10, 900, 10};
 
     /// Reads the file over the values in force. A file that cannot be read changes nothing, a
-    /// weapon without an element keeps its numbers; both are logged. False for the former.
+    /// weapon without an element keeps its numbers, and a number out of range is cut (0 to a
+    /// million; pushes may be negative); all of it is logged. False when the file cannot be read.
     bool load(const std::string& path);
 };
 

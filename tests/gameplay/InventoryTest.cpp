@@ -112,6 +112,7 @@ TEST_F(InventoryTest, AmmunitionStopsAtItsMaximum) {
                           {2, 999, 40, 999},
                           {2, 1000, 40, 999},
                           {2, 400, 40, 440},
+                          {2, 0, -1, 0},
                           {1, infiniteAmmo, 40, infiniteAmmo}}) {
         bag().setAmmo(c.id, c.has);
         bag().addAmmo(c.id, c.add);
@@ -203,6 +204,17 @@ TEST_F(InventoryTest, DefinitionsComeFromTheFile) {
     EXPECT_NE(log.find("Couldn't read railgun weapon info from: data/weapons.xml\n"),
               std::string::npos);
     EXPECT_EQ(log.find("Couldn't read pistol"), std::string::npos);
+    // Numbers that would heal or overflow are cut, and it is said.
+    put(data() + "/data/weapons.xml",
+        "<w><rocket damage='-9' delay='-1' radius='1e30' speed='400' knockback='-3'/></w>");
+    EXPECT_NE(logOf([&] { run("reloadweapondefs"); }).find("Weapon rocket: damage -9 cut to 0\n"),
+              std::string::npos);
+    const WeaponDefinitions::Rocket& rocket =
+        GameplaySingleton::instance().weaponDefinitions.rocket;
+    EXPECT_EQ(rocket.damage, 0);
+    EXPECT_FLOAT_EQ(rocket.delay, 0);
+    EXPECT_FLOAT_EQ(rocket.radius, 1e6F);
+    EXPECT_FLOAT_EQ(rocket.knockback, -3);
 }
 
 TEST_F(InventoryTest, TheShippedDefinitionsAreWholeAndKeepTheWeaponsInCharacter) {

@@ -23,7 +23,8 @@ constexpr const char* wanted =
     "debugtrail deathghost engineering explosionfire explosionshock explosionspark "
     "invincibleeffect invinciblepickup itemrespawn2 lightning megahealth megaquadpickup plasma "
     "plasmatrail quadeffect quadpickup rail rocketflame rocketflameenemy smallbloodexplosion spark "
-    "swarmburst teleporter text tracer watersplash";
+    "swarmburst teleporter text tracer watersplash "
+    "chaingunflash pistolflash shotgunflash";
 
 bool hasSource(const std::string& image) {
     return std::filesystem::exists(
