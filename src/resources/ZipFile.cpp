@@ -23,6 +23,8 @@ constexpr std::uint32_t centralSignature = 0x02014b50;
 constexpr std::size_t localFixedSize = 30;
 constexpr std::size_t centralFixedSize = 46;
 constexpr std::uint64_t maxArchiveSize = 1ULL << 30;
+/// Each takes some 200 bytes of memory.
+constexpr std::size_t maxEntries = 1'000'000;
 /// Deflate packs at most 258 bytes into two bits; a member that claims more than this times its
 /// archive's size lies.
 constexpr std::uint64_t maxInflateRatio = 1032;
@@ -237,12 +239,15 @@ bool ZipFile::open() {
     logLine("Type  Name  CompressedSize  UncompressedSize  CRC  Method  Offset  DOffset");
     logLine(rule);
     const std::string_view all(*bytes);
-    while (std::optional<ZipEntry> entry = readCentralRecord(all.substr(at))) {
+    while (entries_.size() < maxEntries) {
+        std::optional<ZipEntry> entry = readCentralRecord(all.substr(at));
+        if (!entry)
+            break;
         at += centralFixedSize + entry->nameLength + entry->extraLength + entry->commentLength;
         entries_.push_back(std::move(*entry));
     }
     if (all.substr(at, centralMark.size()) == centralMark)
-        logLine("central directory is cut off, the rest of the archive is left out");
+        logLine("central directory is cut off or too long, the rest of the archive is left out");
     return true;
 }
 
