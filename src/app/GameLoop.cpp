@@ -166,6 +166,10 @@ void Game::endFrame() {
         renderer_->takeScreenshot();
         screenshotPending_ = false;
     }
+    // The picture of a save is what goes to the screen now: behind the swap, drivers leave in the
+    // back buffer what they like. From the menus it is the one taken when they came up.
+    if (savePending_ && !gui_->isVisible())
+        renderer_->grabThumbnail();
     renderer_->endFrame();
     ++frameCount_;
 }

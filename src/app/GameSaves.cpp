@@ -11,7 +11,6 @@
 #include "core/Random.h"
 #include "core/Text.h"
 #include "gameplay/Player.h"
-#include "gui/GUIManager.h"
 #include "particles/ParticleManager.h"
 #include "resources/FileSystem.h"
 #include "resources/ResourceManager.h"
@@ -70,8 +69,6 @@ void Game::saveGame() {
     player_->saveState(*player);
     TiXmlPrinter printer;
     document.Accept(&printer);
-    if (!gui_->isVisible())
-        renderer_->grabThumbnail();
     if (files::replace(path, printer.CStr()))
         renderer_->saveThumbnail(savePath(saveName_, ".png"), thumbnailWidth, thumbnailHeight);
     else
