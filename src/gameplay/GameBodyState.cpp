@@ -45,6 +45,8 @@ void GameBody::saveState(TiXmlElement& e) const {
     xml::writeBool(e, "inlimbo", inLimbo);
     xml::writeFloat(e, "revivetime", reviveTime);
     xml::writeInt(e, "initialhealth", initialHealth);
+    if (inLimbo)
+        xml::writeValue(e, "limboplace", limboPlace);
 }
 
 void GameBody::loadState(const TiXmlElement& e) {
@@ -72,6 +74,7 @@ void GameBody::loadState(const TiXmlElement& e) {
     numLives = xml::readInt(e, "numlives");
     inLimbo = xml::readBool(e, "inlimbo");
     limboPlace = pos;
+    xml::readValue(e, "limboplace", limboPlace);
     reviveTime = xml::readFloat(e, "revivetime");
     initialHealth = xml::readInt(e, "initialhealth");
 }
