@@ -84,14 +84,16 @@ bool EventPump::poll(SDL_Event& event) {
         injected_.pop_front();
         return true;
     }
-    if (!hasWindow_ || SDL_PollEvent(&event) == 0)
-        return false;
-    if (event.type == SDL_MOUSEMOTION) {
-        // What a script moves next, it moves from where the pointer really is.
+    while (hasWindow_ && SDL_PollEvent(&event) != 0) {
+        if (event.type != SDL_MOUSEMOTION)
+            return true;
+        if (pointerIsScripted_)
+            continue;
         mouseX_ = event.motion.x;
         mouseY_ = event.motion.y;
+        return true;
     }
-    return true;
+    return false;
 }
 
 void EventPump::pushKey(bool pressed, int sym, int unicode) {
@@ -130,11 +132,19 @@ void EventPump::pushMotion(int x, int y) {
     event.type = SDL_MOUSEMOTION;
     event.motion.x = static_cast<Uint16>(x);
     event.motion.y = static_cast<Uint16>(y);
-    event.motion.xrel = static_cast<Sint16>(x - mouseX_);
-    event.motion.yrel = static_cast<Sint16>(y - mouseY_);
-    mouseX_ = x;
-    mouseY_ = y;
+    event.motion.xrel = static_cast<Sint16>(x - scriptX_);
+    event.motion.yrel = static_cast<Sint16>(y - scriptY_);
+    mouseX_ = scriptX_ = x;
+    mouseY_ = scriptY_ = y;
+    pointerIsScripted_ = true;
     injected_.push_back(event);
+}
+
+void EventPump::cursorIsAt(int x, int y) {
+    if (pointerIsScripted_)
+        return;
+    scriptX_ = x;
+    scriptY_ = y;
 }
 
 bool EventPump::inject(const std::string& line,

@@ -39,6 +39,7 @@ void Game::runScriptLine(const std::string& line) {
     const auto symOf = [this](const std::string& name) {
         return input_.findKey(name).value_or(-1);
     };
+    events_.cursorIsAt(static_cast<int>(gameInput_->mouseX), static_cast<int>(gameInput_->mouseY));
     if (!events_.inject(line, symOf))
         logLine("Script: unknown event: " + line);
 }

@@ -96,13 +96,15 @@ TEST_F(EventPumpTest, AModifierCountsUntilItIsReleased) {
     EXPECT_EQ(e.key.keysym.unicode, 'b');
 }
 
-TEST_F(EventPumpTest, MotionIsRelativeToTheLastPlace) {
+TEST_F(EventPumpTest, MotionIsRelativeToTheLastPlaceAndFirstToTheCursor) {
+    pump.cursorIsAt(20, 60);
     ASSERT_TRUE(inject("@move 100 50"));
+    pump.cursorIsAt(512, 384);
     ASSERT_TRUE(inject("@move 90 70"));
     ASSERT_TRUE(inject("@press 3"));
     SDL_Event e = next();
-    EXPECT_EQ(e.motion.xrel, 100);
-    EXPECT_EQ(e.motion.yrel, 50);
+    EXPECT_EQ(e.motion.xrel, 80);
+    EXPECT_EQ(e.motion.yrel, -10);
     e = next();
     EXPECT_EQ(e.motion.xrel, -10);
     EXPECT_EQ(e.motion.yrel, 20);
