@@ -37,6 +37,11 @@ std::unique_ptr<Body> DetailBody::create() const {
 
 DebugMoveable::DebugMoveable() {
     type = "debugmoveable";
+    // What a spawner makes has no level to dress it.
+    texture = "data/images/crate.png";
+    textured = true;
+    clampTexture = true;
+    outlined = false;
     showDamage = false;
 }
 

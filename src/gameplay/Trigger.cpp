@@ -38,6 +38,10 @@ void BatterySlot::onTouch(const TouchInfo& info) {
 
 Battery::Battery() {
     type = "battery";
+    texture = "data/images/battery.png";
+    textured = true;
+    clampTexture = true;
+    outlined = false;
     thinks = true;
     hasGlow = true;
     glowSteps = 2;
