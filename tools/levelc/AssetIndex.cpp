@@ -19,6 +19,24 @@ namespace {
 /// The particle system that the game has without a definition.
 constexpr const char* builtInParticles = "default";
 
+/// Every element of that name below this one, wherever it stands.
+template <class Visit>
+void forEachElement(const TiXmlElement& e, const char* name, const Visit& visit) {
+    for (const TiXmlElement* c = e.FirstChildElement(); c != nullptr; c = c->NextSiblingElement()) {
+        if (c->ValueStr() == name)
+            visit(*c);
+        forEachElement(*c, name, visit);
+    }
+}
+
+template <class Visit>
+void forEachElementOfFile(const std::string& path, const char* name, const Visit& visit) {
+    std::string text;
+    TiXmlDocument document;
+    if (readFile(path, text).empty() && parseXml(text, document).empty())
+        forEachElement(*document.RootElement(), name, visit);
+}
+
 bool startsWith(const std::string& text, const std::string& start) {
     return text.rfind(start, 0) == 0;
 }
@@ -65,6 +83,24 @@ std::string AssetIndex::checkFile(ParamType type, const std::string& name) const
         default:
             return {};
     }
+}
+
+std::vector<std::string> AssetIndex::waveTargets(const std::string& name) const {
+    std::vector<std::string> targets;
+    forEachElementOfFile(folder_ + "/" + name, "event", [&](const TiXmlElement& e) {
+        targets.push_back(xml::readString(e, "target"));
+    });
+    return targets;
+}
+
+bool AssetIndex::hasSpawnPoint(const std::string& map, const std::string& name) const {
+    bool found = false;
+    forEachElementOfFile(folder_ + "/maps/" + map + ".tmx", "object", [&](const TiXmlElement& e) {
+        // Maps since Tiled 1.9 may say class.
+        const std::string type = xml::readString(e, xml::has(e, "type") ? "type" : "class");
+        found = found || (type == "spawnpoint" && xml::readString(e, "name") == name);
+    });
+    return found;
 }
 
 bool AssetIndex::has(const std::string& source) const {

@@ -6,6 +6,7 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 namespace bc::levelc {
 
@@ -19,6 +20,10 @@ class AssetIndex {
     /// Why what a parameter of this type names will not be there; empty when it will, and for
     /// parameters that name no file.
     [[nodiscard]] std::string checkFile(ParamType type, const std::string& name) const;
+    /// The names of the objects that a wave file triggers; none of a file that cannot be read.
+    [[nodiscard]] std::vector<std::string> waveTargets(const std::string& name) const;
+    /// Whether a map has a spawn point of that name.
+    [[nodiscard]] bool hasSpawnPoint(const std::string& map, const std::string& name) const;
 
   private:
     [[nodiscard]] bool has(const std::string& source) const;

@@ -37,8 +37,19 @@ ObjectValues::ObjectValues(const MapObject& object, const BodyType& type,
     // What moves has its place to remember.
     if (number("mass") > 0 && object.properties.count("entity") == 0)
         values_["entity"] = "true";
-    if (type.name == "levelchange" && text(flag("iscutscene") ? "cutscene" : "leveltarget").empty())
+    if (type.name == "levelchange")
+        checkExit(around.assets);
+}
+
+void ObjectValues::checkExit(const AssetIndex& assets) {
+    const bool cutscene = flag("iscutscene");
+    const std::string& level = text("leveltarget");
+    if (text(cutscene ? "cutscene" : "leveltarget").empty())
         faults_.emplace_back("leads nowhere: set leveltarget, or iscutscene and cutscene");
+    else if (!cutscene && !text("targetspawn").empty() &&
+             !assets.hasSpawnPoint(level, text("targetspawn")))
+        faults_.push_back("property targetspawn: the map " + level + " has no spawn point " +
+                          text("targetspawn"));
 }
 
 void ObjectValues::readSet(const MapObject& object, const Surroundings& around) {
@@ -68,6 +79,11 @@ void ObjectValues::checkValue(const Param& param, const std::string& text,
     fault = checkReference(param, text, around);
     if (fault.empty())
         fault = around.assets.checkFile(param.type, text);
+    if (fault.empty() && param.type == ParamType::Wave) {
+        for (const std::string& target : around.assets.waveTargets(text))
+            if (around.names.count(target) == 0)
+                fault = text + " triggers " + target + ", which is no object";
+    }
     if (!fault.empty())
         faults_.push_back("property " + param.name + ": " + fault);
 }

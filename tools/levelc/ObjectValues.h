@@ -45,6 +45,7 @@ class ObjectValues {
     [[nodiscard]] static std::string checkReference(const Param& param, const std::string& text,
                                                     const Surroundings& around);
     void settleTexture();
+    void checkExit(const AssetIndex& assets);
 
     const BodyType& type_;
     std::map<std::string, std::string> values_;
