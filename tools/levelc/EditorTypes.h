@@ -6,6 +6,7 @@
 
 namespace bc::levelc {
 
+struct BodyType;
 class BodyTypes;
 
 // What the Tiled editor shows for an object of each body type: every parameter with its default.
@@ -16,5 +17,7 @@ class BodyTypes;
 [[nodiscard]] std::string objectTypes(const BodyTypes& types);
 /// The level makers' reference in Markdown.
 [[nodiscard]] std::string levelReference(const BodyTypes& types);
+/// The type's picture in that reference, seen from there. tools/typepictures makes them.
+[[nodiscard]] std::string pictureOf(const BodyType& type);
 
 }  // namespace bc::levelc

@@ -96,7 +96,8 @@ std::string changedDefaults(const BodyType& type, const BodyTypes& types) {
 }
 
 std::string typeSection(const BodyType& type, const BodyTypes& types) {
-    std::string out = "### " + type.name + "\n\n" + type.doc;
+    std::string out =
+        "### " + type.name + "\n\n![" + type.name + "](" + pictureOf(type) + ")\n\n" + type.doc;
     if (type.size)
         out += " A point becomes a box of " + std::to_string(static_cast<int>(type.size->x)) +
                " x " + std::to_string(static_cast<int>(type.size->y)) + ".";
@@ -111,6 +112,10 @@ std::string typeSection(const BodyType& type, const BodyTypes& types) {
 }
 
 }  // namespace
+
+std::string pictureOf(const BodyType& type) {
+    return "pictures/types/" + type.name + ".png";
+}
 
 std::string levelReference(const BodyTypes& types) {
     std::string out =

@@ -35,6 +35,23 @@ TEST(BodyTypesTest, TheShippedTableIsWhole) {
     }
 }
 
+/// The workshop is the level makers' living reference, and the source of most of the pictures.
+TEST(BodyTypesTest, EveryTypeHasAPictureAndStandsInTheWorkshop) {
+    std::string workshop;
+    ASSERT_EQ(readFile(source + "/assets/maps/workshop.tmx", workshop), "");
+    const BodyTypes types = shipped();
+    for (const BodyType& type : types.types()) {
+        if (type.runtimeOnly)
+            continue;
+        std::string picture;
+        EXPECT_EQ(readFile(source + "/docs/" + pictureOf(type), picture), "") << type.name;
+        EXPECT_EQ(picture.substr(1, 3), "PNG") << type.name << ": run tools/typepictures";
+        const bool fights = type.use == "enemy" || type.use == "ally" || type.name == "bossblock";
+        EXPECT_TRUE(fights || workshop.find("type=\"" + type.name + "\"") != std::string::npos)
+            << type.name;
+    }
+}
+
 TEST(BodyTypesTest, WhatIsMadeOfTheTableIsUpToDate) {
     const BodyTypes types = shipped();
     const std::vector<std::pair<std::string, std::string>> made{
