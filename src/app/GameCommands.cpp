@@ -126,8 +126,11 @@ void Game::registerLevelCommands() {
         savePending_ = true;
     });
     c.registerCommand("load game", "loadgame", [this] { loadGame(commands().arg(0, "temp")); });
-    c.registerCommand("load a specified sky", "sky",
-                      [this] { skyManager_.replaceAllByName(commands().arg(0, "default")); });
+    c.registerCommand("load a specified sky", "sky", [this] {
+        const std::string name = commands().arg(0, "default");
+        if (!skyManager_.replaceAllByName(name))
+            consolePrint("Could not load sky file:" + SkyManager::pathOf(name));
+    });
     c.registerCommand("pause game", "pause", [this] { togglePause(); });
     c.registerCommand("show map", "+showmap", [this] { showMap(true); });
     c.registerCommand("stop showing map", "-showmap", [this] { showMap(false); });

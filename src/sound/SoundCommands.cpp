@@ -23,7 +23,10 @@ void changeVolume(Sound& sound, int direction) {
 void Sound::registerCommands() {
     CommandRegistry& registry = commands();
     registry.registerCommand("play a sound", "playsound", [this] {
-        playName(commands().arg(0, "data/sounds/test/test.ogg"), 0, 100);
+        const std::string name = commands().arg(0, "data/sounds/test/test.ogg");
+        playName(name, 0, 100);
+        if (initialised_ && findSampleIndex(name) < 0)
+            consolePrint("Couldn't find sound: " + name);
     });
     registry.registerCommand("sets the volume", "setvolume", [this] {
         const int volume = commands().argCount() > 0 ? parseInt(commands().arg(0)) : -1;
@@ -35,7 +38,10 @@ void Sound::registerCommands() {
     registry.registerCommand("increase the volume", "volumeup", [this] { changeVolume(*this, 1); });
     registry.registerCommand("decrease the volume", "volumedown",
                              [this] { changeVolume(*this, -1); });
-    registry.registerCommand("restart the sound system", "soundrestart", [this] { openAudio(); });
+    registry.registerCommand("restart the sound system", "soundrestart", [this] {
+        if (!openAudio())
+            consolePrint("Sound init Failed: " + mixer_->error());
+    });
     registry.registerCommand("playlist next", "plnext", [this] { nextTrack(); });
     registry.registerCommand("playlist previous", "plprev", [this] { playlist_.previous(); });
     registry.registerCommand("playlist info", "plinfo", [this] { playlist_.printInfo(); });

@@ -204,6 +204,10 @@ TEST_F(SoundTest, VolumeCommands) {
         EXPECT_EQ(value("volume"), c.after) << c.command;
     }
     EXPECT_THAT(logOf([] { commands().execute("playsound b.wav"); }), HasSubstr("name b.wav at"));
+    EXPECT_THAT(run("playsound no.wav"), ElementsAre("Couldn't find sound: no.wav"));
+    EXPECT_THAT(run("soundrestart; soundchannels 3; soundrestart"),
+                ElementsAre("Sound init Failed: No device plays these settings"));
+    EXPECT_THAT(run("soundchannels 1; soundrestart"), IsEmpty());
     EXPECT_THAT(logOf([] { commands().execute("playsound"); }),
                 HasSubstr("Couldn't find sound: data/sounds/test/test.ogg"));
 }
