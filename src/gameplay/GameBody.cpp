@@ -99,7 +99,7 @@ void GameBody::takeDamage(int amount, int damageType) {
 void GameBody::die() {
     if (dying || inLimbo)
         return;
-    --numLives;
+    numLives = saturated(numLives - 1LL);
     dying = true;
     deathTime = levelTime() + deathDelay;
     const bool forGood = numLives < 1;

@@ -7,7 +7,16 @@
 
 #include <tinyxml.h>
 
+#include <algorithm>
+
 namespace bc {
+
+namespace {
+
+/// More than a world has bodies.
+constexpr int mostChildren = 1 << 20;
+
+}  // namespace
 
 void GameBody::applyAttributes(const std::map<std::string, std::string>& attributes) {
     Body::applyAttributes(attributes);
@@ -65,7 +74,7 @@ void GameBody::loadState(const TiXmlElement& e) {
     hasQuad = xml::readBool(e, "hasquad");
     damageFactor = xml::readFloat(e, "damagefactor");
     quadTime = xml::readFloat(e, "quadtime");
-    numAlive = xml::readInt(e, "numalive");
+    numAlive = std::clamp(xml::readInt(e, "numalive"), 0, mostChildren);
     maxAlive = xml::readInt(e, "maxalive");
     ownerId = xml::readInt(e, "ownerid");
     hasInvinc = xml::readBool(e, "hasinvinc");

@@ -5,6 +5,7 @@
 #include "world/Body.h"
 #include "world/QuadTree.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -24,6 +25,7 @@ class World {
     /// The player has id 1.
     static constexpr std::int32_t firstBodyId = 2;
     static constexpr std::int32_t playerId = 1;
+    static constexpr std::int32_t largestStartId = 1 << 30;
     static constexpr std::int32_t playerCategory = 1;
 
     /// While one lives, destroyed bodies are kept in memory; they are deleted with the last one.
@@ -57,7 +59,8 @@ class World {
     [[nodiscard]] QuadTree& quadtree() { return quadtree_; }
     [[nodiscard]] const QuadTree& quadtree() const { return quadtree_; }
     [[nodiscard]] std::int32_t nextBodyId() const { return nextBodyId_; }
-    void setNextBodyId(std::int32_t id) { nextBodyId_ = id; }
+    /// An id that no game could have counted up to becomes the largest one.
+    void setNextBodyId(std::int32_t id) { nextBodyId_ = std::min(id, largestStartId); }
     /// The first body with that autoid, or null.
     [[nodiscard]] Body* findById(std::int32_t autoid) const;
 

@@ -91,6 +91,10 @@ TEST_F(GameBodyTest, AbsurdNumbersStayNumbers) {
     body.takeDamage(INT_MAX, 1);
     EXPECT_TRUE(body.inLimbo);
     EXPECT_LT(body.health, -1000000);
+    body.inLimbo = false;
+    body.numLives = INT_MIN;
+    body.die();
+    EXPECT_LT(body.numLives, 0);
 }
 
 TEST_F(GameBodyTest, BleedsWhetherOrNotItIsHurt) {

@@ -10,6 +10,7 @@
 
 #include <cstring>
 #include <functional>
+#include <limits>
 #include <set>
 #include <vector>
 
@@ -80,6 +81,9 @@ TEST_F(WorldTest, NumbersBodiesAndFindsThem) {
     world.removeFromActive(first);
     world.quadtree().remove(*first);
     EXPECT_EQ(world.allBodies(), std::vector<Body*>{second});
+    world.setNextBodyId(std::numeric_limits<std::int32_t>::max());
+    spawn(300, 0);
+    EXPECT_GT(spawn(400, 0)->autoid, 1000000);
 }
 
 TEST_F(WorldTest, WhatIsDestroyedInATouchLivesUntilTheEndOfThePass) {
