@@ -56,6 +56,13 @@ TEST_F(PlayerTest, PowerUpsRefreshKeepTheStrongerAndEnd) {
     EXPECT_EQ(game.sound.countOf(25), 1);
     stepMsecs(20000);
     EXPECT_EQ(systemsOf("quadeffect"), 1);
+    // The sparks lie as deep as the pulse, which must not cut them off.
+    test::RecordingRenderer renderer;
+    player->drawExtras(renderer);
+    const auto pulse = renderer.drawn("data/particles/magneticpulse.png");
+    ASSERT_EQ(pulse.size(), 1U);
+    EXPECT_FALSE(pulse[0].depthWrite);
+    EXPECT_TRUE(renderer.state.depthWrite);
     player->giveQuad(4);
     EXPECT_FLOAT_EQ(player->damageFactor, 8);
     EXPECT_EQ(player->scaleOutgoingDamage(100), 800);
