@@ -298,5 +298,19 @@ TEST(Levels, BothRacesOfTheCircuitCanBeRunToTheirEnd) {
     }
 }
 
+TEST(Levels, TheirExitsLeadToEachOther) {
+    RunGame game;
+    game.script(
+        "0 map workshop\n5 warpto exit_circuit\n100 dumpstate circuit.xml\n"
+        "105 warpto exit_workshop\n200 dumpstate workshop.xml\n200 dumpworld\n"
+        "205 warpto exit_hangar\n300 dumpstate hangar.xml\n");
+    ASSERT_EQ(game.headless({"--frames", "302"}), 0) << game.standardError();
+    for (const char* level : {"circuit", "workshop", "hangar"})
+        EXPECT_EQ(Dump(game.read(level + std::string(".xml"))).value("game", "currentlevel"),
+                  level + std::string(".xml"));
+    const Dump back(game.read("worlddump.xml"));
+    EXPECT_NEAR(back.numbers(craft, "pos")[0], back.numbers("from_elsewhere", "pos")[0], 1);
+}
+
 }  // namespace
 }  // namespace bc
