@@ -212,6 +212,22 @@ TEST(Range, AnEmptyWeaponClicksAndGivesWayToTheBestLoadedOne) {
     EXPECT_EQ(count(game.log(), "sound id 10 "), 1);
 }
 
+TEST(Range, TheUsersDefinitionsHoldAndAWrongFileChangesNothing) {
+    RunGame game;
+    game.write("data/weapons.xml", "<weapons><pistol damage='7' range='8096'/></weapons>");
+    // What a dump leaves in its place is XML, but no weapons.
+    game.script(std::string(ready) + "3 warpto drum_point\n" + fire(1) +
+                "20 dumpworld data/weapons.xml\n21 reloadweapondefs\n30 +attack\n31 -attack\n");
+    ASSERT_EQ(game.headless({"--frames", "40"}), 0);
+    const std::vector<Hit> all = hits(game.log());
+    ASSERT_EQ(all.size(), 2U);
+    EXPECT_EQ(all[1].amount, 7);
+    EXPECT_EQ(all[1].health, 600 - 14);
+    const std::string missing = " weapon info from: data/weapons.xml";
+    EXPECT_EQ(count(game.log(), "Couldn't read pistol" + missing), 1);
+    EXPECT_EQ(count(game.log(), "Couldn't read railgun" + missing), 2);
+}
+
 TEST(Range, TheSwarmComesOutOnceAndTheGrappleHauls) {
     RunGame swarm;
     swarm.script(std::string(ready) + "3 warpto range_point\n4 useitem swarm\n" + fire(60) +
