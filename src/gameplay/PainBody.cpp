@@ -10,7 +10,16 @@
 
 #include <tinyxml.h>
 
+#include <cmath>
+
 namespace bc {
+
+namespace {
+
+/// Milliseconds in which the picture drifts by its own height.
+constexpr float driftTime = 3000;
+
+}  // namespace
 
 PainBody::PainBody() {
     type = "painbody";
@@ -54,6 +63,11 @@ void PainBody::think(float dt) {
         return;
     triggered = false;
     on = !on;
+}
+
+void PainBody::textureTransform(TextureTransform& transform) {
+    // v grows upwards, so that the look-up has to go down.
+    transform.offsetY = -std::fmod(levelTime(), driftTime) / driftTime;
 }
 
 void PainBody::loadState(const TiXmlElement& e) {

@@ -22,6 +22,9 @@ class PainBody final : public GameBody {
     void loadState(const TiXmlElement& e) override;
     void saveState(TiXmlElement& e) const override;
     void dumpState(TiXmlElement& debug) const override;
+    /// Its picture drifts upwards while it is on, and stands still while it is off.
+    [[nodiscard]] bool hasTextureTransform() const override { return on; }
+    void textureTransform(TextureTransform& transform) override;
 
     bool on = false;
     /// Damage of one contact.
