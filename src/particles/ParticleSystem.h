@@ -50,7 +50,11 @@ class ParticleSystem {
     [[nodiscard]] int liveCount() const { return pool_.size(); }
     [[nodiscard]] int maxParticles() const { return pool_.limit(); }
     /// Room for so many particles from now on, whatever definition it is used with.
-    void reserve(int particles) { pool_.reset(particles); }
+    void reserve(int particles) {
+        pool_.reset(particles);
+        // Most are attached to one body; which of those used again will be, nobody knows.
+        observers_.reserve(2);
+    }
     [[nodiscard]] int capacity() const { return pool_.capacity(); }
     [[nodiscard]] const ParticlePool& pool() const { return pool_; }
     [[nodiscard]] ParticleKind kind() const { return kind_; }
