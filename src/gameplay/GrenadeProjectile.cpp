@@ -15,6 +15,12 @@ namespace {
 
 constexpr float grenadeSize = 8;
 
+/// What it bounces off. An enemy that stands fast is none of it.
+bool isWall(const Body& body) {
+    const auto* target = dynamic_cast<const GameBody*>(&body);
+    return isStaticGeometry(body) && (target == nullptr || !target->takesDamage);
+}
+
 }  // namespace
 
 GrenadeProjectile::GrenadeProjectile() {
@@ -64,10 +70,10 @@ void GrenadeProjectile::onTouch(const TouchInfo& touch) {
     if (exploded)
         return;
     const Body& other = *touch.other;
-    const bool isGeometry = isStaticGeometry(other);
-    if (isGeometry)
+    const bool wall = isWall(other);
+    if (wall)
         playBounceSound(*this, nextBounceSound);
-    if (!other.solid || !other.visible || (isGeometry && !other.nonmassmover))
+    if (!other.solid || !other.visible || (wall && !other.nonmassmover))
         return;
     if (&other == owner || other.type == "door" || other.type == "alphadoor")
         return;

@@ -209,17 +209,23 @@ TEST_F(ProjectileTest, GrenadesBounceOffWallsAndDoorsAndBlowUpInTime) {
 }
 
 TEST_F(ProjectileTest, GrenadesBlowUpOnBodiesAndMovingGeometry) {
-    for (const bool mover : {false, true}) {
+    struct Case {
+        bool massive, mover, hurtable;
+        int health;
+    };
+    // What stands fast and can be hurt is an enemy, not a wall.
+    for (const Case& c : {Case{true, false, true, 880}, Case{false, true, false, 1000},
+                          Case{false, false, true, 880}}) {
         game.sound.plays.clear();
         GameBody* enemy = addTarget({100, 0});
-        if (mover) {
+        if (!c.massive)
             enemy->mass = enemy->invMass = 0;
-            enemy->nonmassmover = true;
-        }
+        enemy->nonmassmover = c.mover;
+        enemy->takesDamage = c.hurtable;
         launchGrenade();
         stepMsecs(800);
-        EXPECT_EQ(blasts(), 1) << mover;
-        EXPECT_EQ(enemy->health, 880) << mover;
+        EXPECT_EQ(blasts(), 1) << c.massive << c.mover;
+        EXPECT_EQ(enemy->health, c.health) << c.massive << c.mover;
         game.world.destroyBody(enemy);
     }
 }
