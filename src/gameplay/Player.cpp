@@ -21,6 +21,8 @@ namespace bc {
 namespace {
 
 constexpr float bodyMass = 100;
+// Upward part of the normal of ground that can be stood on: 60 degrees at the steepest.
+constexpr float leastStanding = 0.5F;
 /// Seconds within which the glow of an ended power-up is gone.
 constexpr float effectFade = 10;
 
@@ -182,6 +184,20 @@ void Player::requestRespawn(float now) {
             game->requestMapLoad(game->getCurrentLevel(), "");
     }
     appearEffect(pos);
+}
+
+void Player::onTouch(const TouchInfo& touch) {
+    GameBody::onTouch(touch);
+    const Body& other = *touch.other;
+    if (!solid || !other.solid || !acceptsCollision(other) || !other.acceptsCollision(*this))
+        return;
+    // A crate has its turn before the craft on top of it and leaves nothing for the craft's own:
+    // without this the craft could not jump from crates. The normal points at the first of the
+    // pair.
+    const Vector apart = pos - other.pos;
+    const bool isFirst = touch.normal->x * apart.x + touch.normal->y * apart.y >= 0;
+    const float upwards = isFirst ? touch.normal->y : -touch.normal->y;
+    contact = contact || upwards >= leastStanding;
 }
 
 void Player::die() {

@@ -27,6 +27,8 @@ class Player final : public GameBody, public HudPlayer {
     void die() override;
     void think(float dt) override;
     void onLoaded() override;
+    /// Stands on what it touches from above, also when that is the first of the pair.
+    void onTouch(const TouchInfo& touch) override;
     void drawExtras(IRenderer& renderer) override;
     void loadState(const TiXmlElement& e) override;
     void saveState(TiXmlElement& e) const override;

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace bc {
@@ -85,6 +86,28 @@ TEST_F(GameplayInputTest, PlatformModeStandsAndLandsInTheWorld) {
     run("-moveup");
     stepMsecs(4000);
     EXPECT_TRUE(player->contact && player->canJump);
+}
+
+// Bodies of a level have their turn before the player; what lies beside is nothing to stand on.
+TEST_F(GameplayInputTest, PlatformModeStandsOnACrateThatHasItsTurnFirst) {
+    vars().setVar("movemode", "2");
+    gravity = -200;
+    addWall({0, -60}, 400, 20);
+    auto crate = std::make_unique<Body>();
+    crate->makeBox(32, 32);
+    crate->setPosition({0, -30});
+    Body* below = game.world.spawnBody(std::move(crate));
+    std::vector<Body*> order = game.world.allBodies();
+    std::rotate(order.begin(), std::find(order.begin(), order.end(), below), order.end());
+    game.world.reorder(order);
+    stepMsecs(2000);
+    int standing = 0;
+    for (int i = 0; i < 40; ++i) {
+        stepMsecs(25);
+        standing += player->contact ? 1 : 0;
+    }
+    EXPECT_GT(standing, 3);
+    EXPECT_GT(player->pos.y, below->pos.y + 20);
 }
 
 TEST_F(GameplayInputTest, BoostBurstsAndRecharges) {
