@@ -162,7 +162,7 @@ ParticleSystem* ParticleManager::createFromDefinition(std::string_view name) {
 
 std::unique_ptr<ParticleSystem> ParticleManager::createSystem(std::string_view name,
                                                               int maxParticles) {
-    if (systems_.size() >= systemLimit)
+    if (systems_.size() >= systemLimit && !endSpent())
         return nullptr;
     const ParticleKind kind = kindOf(name);
     const std::size_t size = poolIndex(maxParticles);
@@ -173,8 +173,10 @@ std::unique_ptr<ParticleSystem> ParticleManager::createSystem(std::string_view n
         return system;
     }
     const int room = smallestPool << size;
-    if (!makeRoom(room))
-        return nullptr;
+    while (!makeRoom(room)) {
+        if (!endSpent())
+            return nullptr;
+    }
     particleRoom_ += room;
     std::unique_ptr<ParticleSystem> system = makeSystem(kind);
     system->reserve(room);
@@ -192,6 +194,17 @@ bool ParticleManager::makeRoom(int particles) {
         }
     }
     return particleRoom_ + particles <= particleRoomLimit;
+}
+
+bool ParticleManager::endSpent() {
+    const auto spent = std::find_if(systems_.begin(), systems_.end(),
+                                    [](const auto& system) { return system->isSpent(); });
+    if (spent == systems_.end())
+        return false;
+    std::unique_ptr<ParticleSystem> ended = std::move(*spent);
+    systems_.erase(spent);
+    retire(std::move(ended));
+    return true;
 }
 
 void ParticleManager::retire(std::unique_ptr<ParticleSystem> system) {

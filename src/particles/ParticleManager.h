@@ -85,6 +85,9 @@ class ParticleManager {
 
     std::unique_ptr<ParticleSystem> createSystem(std::string_view name, int maxParticles);
     void retire(std::unique_ptr<ParticleSystem> system);
+    /// Ends the oldest system of which nothing will be seen again (a burst whose definition gives
+    /// it no end); false when there is none.
+    bool endSpent();
     /// Throws away kept systems until there is room for this many particles more.
     bool makeRoom(int particles);
 

@@ -60,6 +60,11 @@ void ParticleSystem::init(std::shared_ptr<const ParticleSystemParams> definition
     visible_ = true;
 }
 
+bool ParticleSystem::isSpent() const {
+    const bool flows = emitting_ && definition_->flowRate > 0;
+    return liveCount() == 0 && systemTime_ > 0 && !flows && !refill_ && observers_.empty();
+}
+
 void ParticleSystem::setRemainingLife(float seconds) {
     if (std::isfinite(seconds))
         remainingLife_ = seconds;

@@ -47,6 +47,8 @@ class ParticleSystem {
     [[nodiscard]] const Vector& secondPosition() const { return second_; }
     [[nodiscard]] bool isAlive() const { return alive_; }
     [[nodiscard]] bool isEmitting() const { return emitting_; }
+    /// Has had its particles, makes no more by itself, and nobody watches it.
+    [[nodiscard]] bool isSpent() const;
     [[nodiscard]] int liveCount() const { return pool_.size(); }
     [[nodiscard]] int maxParticles() const { return pool_.limit(); }
     /// Room for so many particles from now on, whatever definition it is used with.

@@ -202,6 +202,23 @@ TEST_F(ParticleManagerTest, FloodsAreBounded) {
             manager.createFromDefinition("small");
     });
     EXPECT_EQ(manager.systems().size(), ParticleManager::systemLimit);
+    // Bursts without an end make way once they have been seen, those that are watched do not.
+    for (const auto& system : manager.systems())
+        system->emitInitial();
+    EXPECT_EQ(manager.createFromDefinition("small"), nullptr);
+    struct Watcher final : ParticleSystemObserver {
+        void onParticleSystemEnded(ParticleSystem&) override {}
+    } watcher;
+    const int watched = manager.systems().front()->id();
+    manager.systems().front()->addObserver(&watcher);
+    for (int i = 0; i < 12; ++i)
+        manager.update(0.1F, everything);
+    EXPECT_EQ(logOf([&] {
+                  for (int i = 0; i < 2000; ++i)
+                      ASSERT_NE(startParticles("small", Vector()), nullptr);
+              }),
+              "");
+    EXPECT_NE(manager.find(watched), nullptr);
 }
 
 TEST_F(ParticleManagerTest, InvisibleSystemsRunAndAreDrawnByTheirOwner) {
