@@ -50,8 +50,7 @@ void AlphaDoor::onTriggered(GameBody* /*activator*/) {
     toggle();
 }
 
-void AlphaDoor::think(float dt) {
-    GameBody::think(dt);
+void AlphaDoor::think(float /*dt*/) {
     if (!triggered || triggerOnce || closeAt >= levelTime())
         return;
     triggered = false;

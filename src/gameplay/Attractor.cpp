@@ -37,8 +37,7 @@ void Attractor::onLoaded() {
     startParticles("attractor", pos);
 }
 
-void Attractor::think(float dt) {
-    GameBody::think(dt);
+void Attractor::think(float /*dt*/) {
     World* world = GameplaySingleton::instance().world();
     if (world == nullptr)
         return;

@@ -72,8 +72,7 @@ bool Door::holdAt(const Vector& place) {
     return true;
 }
 
-void Door::think(float dt) {
-    GameBody::think(dt);
+void Door::think(float /*dt*/) {
     if (isOpen && closeTime < levelTime() && !isClosing && timeOpen > 0) {
         isClosing = true;
         setOffTowards(startPoint - pos);

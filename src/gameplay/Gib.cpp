@@ -88,8 +88,7 @@ void Gib::launchFrom(const Vector& position) {
             placed->attachParticleSystem(*trail);
 }
 
-void Gib::think(float dt) {
-    GameBody::think(dt);
+void Gib::think(float /*dt*/) {
     if (deathTime >= levelTime())
         return;
     returnToBudget();

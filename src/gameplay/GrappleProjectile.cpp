@@ -80,7 +80,6 @@ void GrappleProjectile::onTouch(const TouchInfo& touch) {
 }
 
 void GrappleProjectile::think(float dt) {
-    Projectile::think(dt);
     step_ = dt;
     // Let go of, it pulls no more.
     if (cancleanup)

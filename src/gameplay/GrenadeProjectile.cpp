@@ -56,8 +56,7 @@ void GrenadeProjectile::attachEffects() {
     attachTrail("debugtrail");
 }
 
-void GrenadeProjectile::think(float dt) {
-    Projectile::think(dt);
+void GrenadeProjectile::think(float /*dt*/) {
     if (!exploded && fuseTime < levelTime())
         explode();
 }

@@ -76,8 +76,7 @@ void TriggeredJumpPad::onTriggered(GameBody* /*activator*/) {
     untriggerAt = untriggerTime + levelTime();
 }
 
-void TriggeredJumpPad::think(float dt) {
-    JumpPad::think(dt);
+void TriggeredJumpPad::think(float /*dt*/) {
     if (!triggered || triggerOnce || untriggerAt >= levelTime())
         return;
     triggered = false;

@@ -57,8 +57,7 @@ void PainBody::onTriggered(GameBody* /*activator*/) {
     revertAt = revertTimer + levelTime();
 }
 
-void PainBody::think(float dt) {
-    GameBody::think(dt);
+void PainBody::think(float /*dt*/) {
     if (!triggered || revertTimer <= 0 || revertAt >= levelTime())
         return;
     triggered = false;

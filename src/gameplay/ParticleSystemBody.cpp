@@ -81,8 +81,7 @@ void ParticleSystemBody::onTriggered(GameBody* /*activator*/) {
     flip();
 }
 
-void ParticleSystemBody::think(float dt) {
-    GameBody::think(dt);
+void ParticleSystemBody::think(float /*dt*/) {
     if (!triggered || revertTimer <= 0 || revertAt >= levelTime())
         return;
     triggered = false;

@@ -44,8 +44,7 @@ void RespawnableBody::onTouch(const TouchInfo& info) {
     pickupFeedback();
 }
 
-void RespawnableBody::think(float dt) {
-    GameBody::think(dt);
+void RespawnableBody::think(float /*dt*/) {
     if (!isAvailable() && canRespawn && nextRespawn < levelTime())
         respawn();
 }

@@ -41,8 +41,7 @@ void SoundBody::applyAttributes(const std::map<std::string, std::string>& attrib
     given.read("loops", loops);
 }
 
-void SoundBody::think(float dt) {
-    GameBody::think(dt);
+void SoundBody::think(float /*dt*/) {
     ISound* output = GameplaySingleton::instance().sound();
     const Player* player = GameplaySingleton::instance().player();
     if (output == nullptr || player == nullptr)

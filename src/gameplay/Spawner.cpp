@@ -50,8 +50,7 @@ void Spawner::onTriggered(GameBody* /*activator*/) {
     spawn();
 }
 
-void Spawner::think(float dt) {
-    GameBody::think(dt);
+void Spawner::think(float /*dt*/) {
     const float now = levelTime();
     if (triggered && untriggerAt < now)
         triggered = false;

@@ -95,8 +95,7 @@ void SwarmMember::release(GameBody& shooter, const Vector& position, const Vecto
     }
 }
 
-void SwarmMember::think(float dt) {
-    GameBody::think(dt);
+void SwarmMember::think(float /*dt*/) {
     if (inLimbo)
         return;
     if (deathTime < levelTime()) {

@@ -28,8 +28,7 @@ bool TriggerBody::isReadyFor(const TouchInfo& info) const {
     return !triggered && info.other->category == category::player;
 }
 
-void TriggerBody::think(float dt) {
-    GameBody::think(dt);
+void TriggerBody::think(float /*dt*/) {
     if (!triggered || triggerOnce || untriggerAt >= levelTime())
         return;
     triggered = false;

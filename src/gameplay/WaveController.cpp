@@ -87,8 +87,7 @@ void WaveController::onTriggered(GameBody* /*activator*/) {
     startTime = levelTime();
 }
 
-void WaveController::think(float dt) {
-    GameBody::think(dt);
+void WaveController::think(float /*dt*/) {
     if (!active)
         return;
     const float elapsed = levelTime() - startTime;
