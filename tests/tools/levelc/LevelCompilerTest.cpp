@@ -191,6 +191,11 @@ TEST_F(LevelCompilerTest, FillsInTheTypesDefaults) {
     EXPECT_EQ(ammo.corners[2].place, (Point{108, 548}));
     EXPECT_EQ(ammo.corners[0].texture, (Point{0, 0}));
     EXPECT_EQ(ammo.corners[2].texture, (Point{1, 1}));
+    // What moves is an entity unless the object says otherwise.
+    for (const auto& [set, entity] : {std::pair("", "false"), std::pair("mass=5", "true"),
+                                      std::pair("mass=5 entity=false", "false")})
+        EXPECT_EQ(param(compileWell(map(start + object("default", set))).bodies[1], "entity"),
+                  entity);
 }
 
 TEST_F(LevelCompilerTest, CutsGeometryAndKeepsColoursAndTexturesContinuous) {
