@@ -184,8 +184,12 @@ void Game::updateAim() {
     if (const auto t = plane.intersect(from, to); t && *t >= 0 && *t <= 1)
         hit = from + (to - from) * *t;
     player->cursorPos.set(cursor->mouseX, cursor->mouseY);
-    player->aim = normalised(Vector(hit.x - player->renderpos.x, hit.y - player->renderpos.y,
-                                    hit.z - player->renderpos.z));
+    const Vector towards(hit.x - player->renderpos.x, hit.y - player->renderpos.y,
+                         hit.z - player->renderpos.z);
+    // A cursor on the very middle of the craft points nowhere, or wherever rounding has it.
+    constexpr float nearest = 0.25F;  // less than half a pixel
+    if (towards.length() > nearest)
+        player->aim = normalised(towards);
     player->mouseWorldPos = hit;
 }
 

@@ -99,8 +99,9 @@ class Player final : public GameBody, public HudPlayer {
     /// The cursor in window pixels from the top left, and the world point under it.
     Vector cursorPos;
     Vector mouseWorldPos;
-    /// Unit vector from renderpos towards mouseWorldPos; weapons fire along it.
-    Vector aim;
+    /// Unit vector from renderpos towards mouseWorldPos; weapons fire along it. Stays as it was
+    /// while the cursor is on the middle of the craft.
+    Vector aim{1, 0};
     /// Follows the craft on a leash, for the chase camera.
     Vector chasePoint;
     bool atChasePoint = false;

@@ -167,7 +167,8 @@ TEST(Range, ARailGoesThroughTheWholeRowAndQuadDamageCountsOnce) {
     struct Case {
         const char* weapon;
         const char* point;
-        const char* quad;
+        /// Further script lines.
+        const char* more;
         int damage;
         std::size_t targets;
     };
@@ -177,14 +178,16 @@ TEST(Range, ARailGoesThroughTheWholeRowAndQuadDamageCountsOnce) {
         {"rocketlauncher", "drum_point", "5 give quad\n", 440, 1},
         {"grenadelauncher", "drum_point", "5 give quad\n", 480, 1},
         {"pistol", "drum_point", "5 give megaquad\n5 give quad\n", 160, 1},
+        // On the very middle of the craft the cursor points nowhere: the last aim stands.
+        {"pistol", "drum_point", "5 @move 512 384\n", 20, 1},
         // The first of the row stops it.
         {"pistol", "row_point", "", 20, 1},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(std::string(c.weapon) + " " + c.quad);
+        SCOPED_TRACE(std::string(c.weapon) + " " + c.more);
         RunGame game;
         game.script(std::string(ready) + "3 warpto " + c.point + "\n4 give all\n4 useitem " +
-                    c.weapon + "\n" + c.quad + fire(1));
+                    c.weapon + "\n" + c.more + fire(1));
         ASSERT_EQ(game.headless({"--frames", "100"}), 0) << game.standardError();
         std::map<int, int> damageOf;
         for (const Hit& hit : hits(game.log()))
