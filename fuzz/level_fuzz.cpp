@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // Levels and saves: whatever is read is placed, simulated, traced and written again.
+#include "resources/XmlAttributes.h"
 #include "resources/XmlGuard.h"
 #include "world/BodyFactory.h"
 #include "world/LevelLoader.h"
 #include "world/World.h"
 #include "world/WorldDump.h"
+#include "world/WorldOrder.h"
 
 #include <tinyxml.h>
 
@@ -56,12 +58,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     bc::BodyFactory factory;
     factory.registerDefaults();
     factory.registerPrototype(std::make_unique<FussyBody>());
+    const bc::xml::ExactNumbers exact;
     for (const bool restoring : {false, true}) {
         bc::World world;
         bc::LevelBodies bodies;
         if (!bc::readSavedBodies(factory, *root, bodies))
             return 0;
+        if (restoring) {
+            bc::LevelBodies level;
+            bc::readSavedBodies(factory, *root, level);
+            bc::shapeIndex(world, level);
+        }
         bc::insertBodies(world, std::move(bodies), restoring);
+        if (restoring)
+            bc::restoreOrder(world, *root, 0.025F);
         expectSound(world);
         for (int i = 0; i < 3; ++i)
             world.simulate(0.025F, -100);
@@ -71,6 +81,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         world.quadtree().trace(bc::Ray({-1e5F, 3}, {1e5F, 5}), hits, true);
         TiXmlElement written("save");
         bc::saveEntities(world, written);
+        bc::saveOrder(world, written);
         bc::dumpBodies(world, written);
         bc::LevelBodies again;
         bc::readSavedBodies(factory, written, again);
