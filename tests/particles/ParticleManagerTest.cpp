@@ -219,6 +219,7 @@ TEST_F(ParticleManagerTest, FloodsAreBounded) {
               }),
               "");
     EXPECT_NE(manager.find(watched), nullptr);
+    manager.clearSystems();  // the watcher goes before the manager does
 }
 
 TEST_F(ParticleManagerTest, InvisibleSystemsRunAndAreDrawnByTheirOwner) {
