@@ -9,6 +9,7 @@
 #include <tinyxml.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -90,8 +91,8 @@ bool moves(const Body& body) {
     return body.isMassive() || body.nonmassmover;
 }
 
-/// "id,left,right,top,bottom;" for each: a side that a body has not moved to of late keeps its
-/// reach from when it did.
+/// "id,left,right,top,bottom,radius;" for each: a side that a body has not moved to of late keeps
+/// its reach from when it did, and the radius never shrinks.
 std::string reaches(const World& world) {
     const ExactFloats exact;
     std::string text;
@@ -100,7 +101,7 @@ std::string reaches(const World& world) {
             const BRect& b = body->bounds;
             text += std::to_string(body->autoid) + ',' + formatFloat(b.sweptLeft) + ',' +
                     formatFloat(b.sweptRight) + ',' + formatFloat(b.sweptTop) + ',' +
-                    formatFloat(b.sweptBottom) + ';';
+                    formatFloat(b.sweptBottom) + ',' + formatFloat(body->radius) + ';';
         }
     return text;
 }
@@ -113,9 +114,9 @@ void restoreReaches(World& world, const std::string& text, float step) {
     std::vector<std::string> items;
     tokenise(";", text, items);
     for (const std::string& item : items) {
-        float v[5];
-        const auto isReach = [](float f) { return f >= 0 && f <= Body::maxCoordinate; };
-        if (parseFloats(item, ",", v, 5) != 5 || !std::all_of(v + 1, v + 5, isReach))
+        float v[6];
+        const auto isReach = [](float f) { return std::fabs(f) <= Body::maxCoordinate; };
+        if (parseFloats(item, ",", v, 6) != 6 || !std::all_of(v + 1, v + 6, isReach))
             continue;
         const auto found = byId.find(parseInt(item));
         if (found == byId.end())
@@ -125,6 +126,7 @@ void restoreReaches(World& world, const std::string& text, float step) {
         b.sweptRight = v[2];
         b.sweptTop = v[3];
         b.sweptBottom = v[4];
+        found->second->radius = std::fabs(v[5]);
         found->second->updateSweptBounds(step);
     }
 }
