@@ -42,6 +42,8 @@ void Game::runScriptLine(const std::string& line) {
     events_.cursorIsAt(static_cast<int>(gameInput_->mouseX), static_cast<int>(gameInput_->mouseY));
     if (!events_.inject(line, symOf))
         logLine("Script: unknown event: " + line);
+    // At once, so that the lines of a pass take effect in file order, commands and events alike.
+    pumpEvents();
 }
 
 void Game::pumpEvents() {

@@ -142,8 +142,8 @@ TEST(Program, TheConsoleTakesLinesWhileTheGameRuns) {
     RunGame game;
     game.script(
         "0 map hangar\n1 @key `\n1 @keyup `\n2 @type version\n3 @key RETURN\n"
-        "4 @type drawsk\n5 @key TAB\n6 dumpstate\n7 condump\n8 @key `\n"
-        "9 dumpstate closed.xml\n");
+        "4 @type drawsk\n5 @key TAB\n5 dumpstate\n7 condump\n8 @key `\n"
+        "8 dumpstate closed.xml\n");
     ASSERT_EQ(game.headless({"--frames", "10"}), 0);
     const std::string state = game.read("statedump.xml");
     EXPECT_EQ(attribute(state, "console", "open"), "true");
