@@ -102,7 +102,7 @@ class Game final : public IGame {
     // Requests.
     void requestMapLoad(const std::string& name, const std::string& spawnName) override;
     bool isMapLoadPending() const override { return mapLoadPending_; }
-    void requestSave() override { savePending_ = true; }
+    void requestSave() override { requestSaveAs(saveName_); }
     void requestLoadGame(const std::string& name) override;
     void showCutscene(const std::string& name) override;
     void pauseGame() override;
@@ -157,8 +157,9 @@ class Game final : public IGame {
     void passScreenSize();
     void enterLevel();
     void insertPlayer();
-    void restorePlayer(const TiXmlElement& node);
+    void restorePlayer(const TiXmlElement& node, bool revives);
     [[nodiscard]] Player* playerBody() const;
+    void requestSaveAs(const std::string& name);
     [[nodiscard]] Vector cameraTarget();
     [[nodiscard]] float zoom() const;
 
@@ -206,6 +207,8 @@ class Game final : public IGame {
     bool screenshotPending_ = false;
     std::unique_ptr<OverlayEffect> overlay_;
     std::string saveName_;
+    /// In force again when what was asked for under saveName_ cannot be written or read.
+    std::string lastSaveName_;
     std::string currentLevel_;
     bool loadPending_ = false;
     bool savePending_ = false;

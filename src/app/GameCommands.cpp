@@ -121,10 +121,8 @@ void Game::registerLevelCommands() {
     CommandRegistry& c = commands();
     c.registerCommand("load a map", "map", [this] { loadMap(commands().arg(0, "test.xml"), ""); });
     c.registerCommand("unload a map", "unmap", [this] { unloadMap(); });
-    c.registerCommand("save game", "savegame", [this] {
-        saveName_ = commands().arg(0, "temp");
-        savePending_ = true;
-    });
+    c.registerCommand("save game", "savegame",
+                      [this] { requestSaveAs(commands().arg(0, "temp")); });
     c.registerCommand("load game", "loadgame", [this] { loadGame(commands().arg(0, "temp")); });
     c.registerCommand("load a specified sky", "sky", [this] {
         const std::string name = commands().arg(0, "default");

@@ -85,6 +85,8 @@ void Game::requestMapLoad(const std::string& name, const std::string& spawnName)
 }
 
 void Game::requestLoadGame(const std::string& name) {
+    if (!loadPending_)
+        lastSaveName_ = saveName_;
     saveName_ = name;
     loadPending_ = true;
     startFadeIn();

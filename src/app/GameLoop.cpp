@@ -105,7 +105,12 @@ void Game::runFrame() {
         }
         if (loadPending_) {
             loadPending_ = false;
-            loadGame(saveName_);
+            if (!loadGame(saveName_)) {
+                saveName_ = lastSaveName_;
+                // Who waits to live again is not left waiting for a save that nobody can read.
+                if (playerBody()->dead)
+                    requestMapLoad(currentLevel_, "");
+            }
             return;
         }
         updateWorld();

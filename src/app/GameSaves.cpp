@@ -41,6 +41,13 @@ std::string savePath(const std::string& name, const char* ending) {
 
 }  // namespace
 
+void Game::requestSaveAs(const std::string& name) {
+    if (!savePending_)
+        lastSaveName_ = saveName_;
+    saveName_ = name;
+    savePending_ = true;
+}
+
 void Game::saveGame() {
     savePending_ = false;
     if (saveName_.empty())
@@ -50,6 +57,7 @@ void Game::saveGame() {
     if (!files::isSafeName(path) || !levelLoaded_) {
         consolePrint(levelLoaded_ ? "Can't save under the name: " + saveName_
                                   : std::string("Can't save: no level is running"));
+        saveName_ = lastSaveName_;
         return;
     }
     gameplay_->beforeSave();
@@ -69,10 +77,12 @@ void Game::saveGame() {
     player_->saveState(*player);
     TiXmlPrinter printer;
     document.Accept(&printer);
-    if (files::replace(path, printer.CStr()))
+    if (files::replace(path, printer.CStr())) {
         renderer_->saveThumbnail(savePath(saveName_, ".png"), thumbnailWidth, thumbnailHeight);
-    else
+    } else {
         consolePrint("Can't write save file: " + path);
+        saveName_ = lastSaveName_;
+    }
     // The clocks of a paused game stand; going on takes the whole pause out of them.
     if (paused_)
         return;
@@ -117,9 +127,10 @@ bool Game::loadGame(const std::string& name) {
     currentLevel_ = level;
     insertPlayer();
     gameInput_->clearActions();
+    const bool revives = playerBody()->revivePending;
     gameplay_->startLevel("");
     if (playerNode != nullptr)
-        restorePlayer(*playerNode);
+        restorePlayer(*playerNode, revives);
     restoreOrder(world_, *root, simulationStep);
     if (xml::has(*root, "random"))
         setRandomState(
@@ -131,8 +142,11 @@ bool Game::loadGame(const std::string& name) {
     return true;
 }
 
-void Game::restorePlayer(const TiXmlElement& node) {
+void Game::restorePlayer(const TiXmlElement& node, bool revives) {
     player_->loadState(node);
+    // Who died comes back in full health, however little was left of it when the save was made.
+    if (revives)
+        playerBody()->revivePending = true;
     player_->autoid = World::playerId;
     player_->onBeforeTargets();
     player_->onLoaded();

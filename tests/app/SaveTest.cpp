@@ -237,5 +237,41 @@ TEST(Saves, BadOnesLeaveTheRunningLevelOrLoadWhatTheyCan) {
     }
 }
 
+TEST(Saves, ABadNameOrAnUnreadableSaveKeepsNobodyDead) {
+    const std::string level =
+        "<l><Objects><P type='spawnpoint' idname='s'><params solid='false'/><verts>"
+        "<v origin='0,0'/><v origin='9,0'/><v origin='9,9'/></verts>"
+        "<attributes><a name='startpoint' value='true'/></attributes></P>"
+        "<P type='painbody' idname='pain'><params solid='false'/><verts>"
+        "<v origin='500,0'/><v origin='540,0'/><v origin='540,40'/><v origin='500,40'/></verts>"
+        "<attributes><a name='on' value='true'/><a name='pain' value='9999'/></attributes></P>"
+        "</Objects></l>";
+    struct Case {
+        const char* name;
+        const char* lines;
+        const char* savedAs;
+    };
+    constexpr Case cases[] = {
+        {"badname", "2 savegame good\n6 savegame ../evil\n", "good"},
+        {"spoiled", "2 savegame good\n6 condump saves/good.xml\n", "good"},
+    };
+    for (const Case& c : cases) {
+        RunGame game;
+        game.write("maps/t.xml", level);
+        game.script(std::string("0 map t\n0 gravity 0\n1 give health 7\n") + c.lines +
+                    "10 warpto pain\n140 dumpworld\n140 dumpstate\n");
+        ASSERT_EQ(game.headless({"--frames", "142"}), 0) << c.name;
+        EXPECT_EQ(game.read("worlddump.xml").find("dead=\"true\""), std::string::npos) << c.name;
+        const std::string name = std::string("savename=\"") + c.savedAs + '"';
+        EXPECT_NE(game.read("statedump.xml").find(name), std::string::npos) << c.name;
+        const bool loaded =
+            game.log().find("Loading save game: saves/good.xml") != std::string::npos;
+        EXPECT_EQ(loaded, c.name == std::string("badname")) << c.name;
+        EXPECT_NE(game.read("worlddump.xml").find("health=\"100\" maxhealth=\"100\" armour"),
+                  std::string::npos)
+            << c.name;
+    }
+}
+
 }  // namespace
 }  // namespace bc
