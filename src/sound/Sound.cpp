@@ -59,7 +59,6 @@ Sound::~Sound() {
 
 bool Sound::openAudio() {
     mixer_->close();
-    channels_.fill(SoundChannelInfo());
     logLine("Audio Format: " + std::to_string(deviceFormat));
     const int frequency = valueOf(frequencyVar_, defaultFrequency);
     const int outputs = valueOf(channelsVar_, defaultOutputs);
@@ -84,6 +83,7 @@ bool Sound::openAudio() {
     // A device that was reopened starts at full volume.
     applyVolume();
     applyMusicVolume();
+    resumeLoops();
     if (!waitingDefs_.empty())
         loadSoundDefs(std::exchange(waitingDefs_, {}));
     return true;
@@ -97,6 +97,17 @@ void Sound::reloadSamples() {
         auto data = file ? mixer_->loadSample(*file) : nullptr;
         if (data)
             sample->data = std::move(data);
+    }
+}
+
+// What plays until it is stopped is started once: whoever did holds the channel and takes it for
+// playing. Everything else ends with the device.
+void Sound::resumeLoops() {
+    for (int i = 0; i < channelCount; ++i) {
+        SoundChannelInfo& info = channels_[static_cast<std::size_t>(i)];
+        const SoundSample* sample = sampleAt(info.sampleIndex);
+        if (!sample || !info.playing || !info.endless || mixer_->play(i, *sample->data, -1) != i)
+            info = SoundChannelInfo();
     }
 }
 
@@ -286,7 +297,9 @@ void Sound::updateListener(const Vector& position) {
         SoundChannelInfo& info = channels_[static_cast<std::size_t>(i)];
         float volume = master;
         if (info.positional) {
-            const double nearness = 1 - distance(position, info.position) / hearingRange;
+            // Beyond the range a volume below 0 would turn into a loud one.
+            const double nearness =
+                std::max(1 - distance(position, info.position) / hearingRange, 0.0);
             volume = static_cast<float>(std::trunc(nearness * volume));
             volume = static_cast<float>(volume / 100.0 * info.volume);
         }

@@ -38,6 +38,7 @@ struct SoundChannelInfo {
     int sampleIndex = -1;
     int volume = 100;
     bool looping = false;
+    bool endless = false;  ///< plays until it is stopped
 };
 
 /// Samples and music. Every play request keeps to the limits on sounds at once, which count the
@@ -137,6 +138,7 @@ class Sound : public ISound {
     int startPlain(Request request);
     void logRequest(const Request& request, int channel) const;
     void reloadSamples();
+    void resumeLoops();
     void bindVariables();
     void registerCommands();
 

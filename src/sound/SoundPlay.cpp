@@ -44,6 +44,7 @@ int Sound::start(const Request& request) {
         info.sampleIndex = request.index;
         info.volume = sample->volume;
         info.looping = request.loops == -1 || request.loops >= 1;
+        info.endless = request.loops < 0;
     }
     if (logVar_ && logVar_->intValue() == 1)
         logRequest(request, channel);

@@ -165,6 +165,7 @@ TEST_F(SoundTest, DistanceFadesPositionalSoundsOnly) {
              {9000, "128", "0", "0", "128"},
              {100, "999", "128", "128", "128"},
              {100, "-7", "0", "0", "0"},
+             {9000, "-7", "0", "0", "0"},
          }) {
         vars().setVar("volume", c.master);
         sound.updateListener({c.x, 0});
@@ -210,6 +211,24 @@ TEST_F(SoundTest, VolumeCommands) {
     EXPECT_THAT(run("soundchannels 1; soundrestart"), IsEmpty());
     EXPECT_THAT(logOf([] { commands().execute("playsound"); }),
                 HasSubstr("Couldn't find sound: data/sounds/test/test.ogg"));
+}
+
+TEST_F(SoundTest, WhatPlaysWithoutEndOutlastsTheDevice) {
+    logOf([&] {
+        sound.playIdOnChannelAt(1, -1, {100, 0}, -1);
+        sound.playIdOnChannelAt(1, -1, {}, 5);
+        sound.playId(3, -1);
+        sound.playIdOnChannelAt(1, 8, {}, -1);
+    });
+    run("soundchannels 3; soundrestart");
+    sound.stopChannel(8);
+    run("soundchannels 1; soundrestart");
+    sound.updateListener({340, 0});
+    EXPECT_EQ(sound.playingCount(), 2);
+    EXPECT_EQ(channel(sound, 10, "volume"), "32");
+    EXPECT_TRUE(sound.channelInfo(4).playing);
+    EXPECT_FALSE(sound.channelInfo(11).playing);
+    EXPECT_FALSE(sound.channelInfo(8).playing);
 }
 
 TEST_F(SoundTest, SettingsThatDoNotOpenFallBack) {
