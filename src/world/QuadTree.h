@@ -32,7 +32,7 @@ class QuadTree {
     /// A leaf holds this many; the next one splits it, unless it is an entity.
     static constexpr int leafCapacity = 20;
     /// Nodes of less than twice this side (world units) are not split by crowding.
-    static constexpr float minNodeSize = 64;
+    static constexpr float minNodeSize = 8;
     static constexpr int maxDepth = 16;
     /// The most that init cuts at once.
     static constexpr int maxInitialDepth = 6;

@@ -27,7 +27,7 @@ TEST(QuadTreeRules, SplitsAtTheTwentyFirstButNotForEntities) {
         auto body = std::make_unique<Body>();
         body->makeBox(4, 4);
         body->entity = entity;
-        body->setPosition(Vector(x, 100));
+        body->setPosition(Vector(x, 90));
         body->updateGeometry();
         body->computeBounds();
         return world.spawnBody(std::move(body));
@@ -39,8 +39,11 @@ TEST(QuadTreeRules, SplitsAtTheTwentyFirstButNotForEntities) {
     EXPECT_EQ(tree.nodeCount(), 1) << "an entity never splits";
     add(15, false);
     EXPECT_GE(tree.nodeCount(), 5);
-    ASSERT_TRUE(tree.init(Vector(), 1000, 2));
+    ASSERT_TRUE(tree.init(Vector(), 200, 2));
     EXPECT_EQ(tree.nodeCount(), 21);
+    for (int i = 0; i < 21; ++i)
+        add(static_cast<float>(52 + i * 2), false);
+    EXPECT_GE(tree.nodeCount(), 25) << "the leaves of a small level split as well";
 }
 
 TEST(QuadTreeRules, AHundredOnOneSpotEnd) {
