@@ -12,6 +12,7 @@
 #include "core/Text.h"
 #include "gameplay/Player.h"
 #include "particles/ParticleManager.h"
+#include "render/BaseSky.h"
 #include "resources/FileSystem.h"
 #include "resources/ResourceManager.h"
 #include "resources/XmlAttributes.h"
@@ -71,6 +72,8 @@ void Game::saveGame() {
         xml::writeInt(*root, "difficulty", std::clamp(vars_->difficulty->intValue(), 1, 4));
     gameplay_->saveGameplayState(*root);
     xml::writeString(*root, "random", std::to_string(randomState()));
+    if (const BaseSky* sky = skyManager_.current())
+        xml::writeString(*root, "sky", sky->name());
     saveEntities(world_, *root);
     saveOrder(world_, *root);
     auto* player = root->LinkEndChild(new TiXmlElement("Player"))->ToElement();
@@ -124,6 +127,10 @@ bool Game::loadGame(const std::string& name) {
     shapeIndex(world_, *bodies);
     std::move(entities.begin(), entities.end(), std::back_inserter(*bodies));
     insertBodies(world_, std::move(*bodies), true);
+    // The level began with its first sky; the player may have come to another one since.
+    if (const std::string sky = xml::readString(*root, "sky");
+        !sky.empty() && skyManager_.loadSky(sky))
+        skyManager_.switchSky(sky);
     currentLevel_ = level;
     insertPlayer();
     gameInput_->clearActions();

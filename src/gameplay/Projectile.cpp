@@ -4,6 +4,7 @@
 
 #include "gameplay/Effects.h"
 #include "gameplay/GameCategories.h"
+#include "gameplay/GameplaySingleton.h"
 #include "gameplay/RadiusDamage.h"
 #include "gameplay/Truncate.h"
 #include "particles/ParticleManager.h"
@@ -12,6 +13,13 @@
 #include <tinyxml.h>
 
 namespace bc {
+
+namespace {
+
+/// Of a fuse that a save does not tell of.
+constexpr float unknown = -1;
+
+}  // namespace
 
 Projectile::Projectile() {
     type = "projectile";
@@ -77,18 +85,28 @@ void Projectile::onBeforeTargets() {
     PooledBody::onBeforeTargets();
     if (owner != nullptr)
         std::erase(owner->children, this);
+    // Only now the clock is the one of the saved level.
+    if (fuseTime == unknown)
+        fuseTime = levelTime() + lifetime;
 }
 
 void Projectile::loadState(const TiXmlElement& e) {
     PooledBody::loadState(e);
-    speed = xml::readFloat(e, "speed");
-    damage = xml::readFloat(e, "damage");
-    blastRadius = xml::readFloat(e, "blastradius");
-    knockback = xml::readFloat(e, "knockback");
-    lifetime = xml::readFloat(e, "lifetime");
-    fuseTime = xml::readFloat(e, "fusetime");
+    // What a save leaves out stays as the class has it.
+    const auto readFloat = [&e](const char* name, float& value) {
+        if (xml::has(e, name))
+            value = xml::readFloat(e, name);
+    };
+    readFloat("speed", speed);
+    readFloat("damage", damage);
+    readFloat("blastradius", blastRadius);
+    readFloat("knockback", knockback);
+    readFloat("lifetime", lifetime);
+    fuseTime = unknown;
+    readFloat("fusetime", fuseTime);
     exploded = xml::readBool(e, "exploded");
-    damageType = xml::readInt(e, "damagetype");
+    if (xml::has(e, "damagetype"))
+        damageType = xml::readInt(e, "damagetype");
     noFlash = xml::readBool(e, "noflash");
     xml::readValue(e, "direction", direction);
 }

@@ -20,6 +20,8 @@ namespace {
 
 /// A timetable longer than this is a mistake.
 constexpr std::size_t maxEvents = 10000;
+/// Of the time up to which events have been carried out.
+constexpr float unknown = -1;
 
 /// Every element called event below this one, wherever it stands.
 template <class Visit>
@@ -76,7 +78,9 @@ void WaveController::readWaves() {
     });
     std::stable_sort(events_.begin(), events_.end(),
                      [](const Event& a, const Event& b) { return a.time < b.time; });
-    // What a save says has been carried out already.
+    // What a save says has been carried out already; one that does not say tells how long it ran.
+    if (firedUntil_ == unknown)
+        firedUntil_ = active ? std::max(levelTime() - startTime, 0.0F) : 0;
     next_ = 0;
     while (next_ < events_.size() && events_[next_].time < firedUntil_)
         ++next_;
@@ -108,7 +112,7 @@ void WaveController::loadState(const TiXmlElement& e) {
     GameBody::loadState(e);
     active = xml::readBool(e, "active");
     startTime = xml::readFloat(e, "starttime");
-    firedUntil_ = xml::readFloat(e, "fireduntil");
+    firedUntil_ = xml::has(e, "fireduntil") ? xml::readFloat(e, "fireduntil") : unknown;
 }
 
 void WaveController::saveState(TiXmlElement& e) const {

@@ -273,5 +273,63 @@ TEST(Saves, ABadNameOrAnUnreadableSaveKeepsNobodyDead) {
     }
 }
 
+/// A square of 30 units with its lower left corner at x,y.
+std::string bodyAt(int x, int y, const std::string& head, const std::string& rest,
+                   const std::string& params = "solid='false'") {
+    std::string text = "<P " + head + "><params " + params + "/><verts>";
+    for (const auto& [dx, dy] : {std::pair{0, 0}, {30, 0}, {30, 30}, {0, 30}})
+        text += "<v origin='" + std::to_string(x + dx) + ',' + std::to_string(y + dy) + "'/>";
+    return text + "</verts>" + rest + "</P>";
+}
+
+std::string attribute(const char* name, const char* value) {
+    return std::string("<attributes><a name='") + name + "' value='" + value + "'/></attributes>";
+}
+
+const std::string savesLevel =
+    "<l><Objects>" + bodyAt(0, 0, "type='spawnpoint' idname='s'", attribute("startpoint", "true")) +
+    bodyAt(0, 0, "type='skyinfo' idname='i'", attribute("skies", "default,nebula")) +
+    bodyAt(0, 0, "type='skytransition' idname='t'", attribute("sky", "nebula")) +
+    bodyAt(0, 300, "type='messengerbody' idname='m'", "") +
+    bodyAt(900, 900, "type='namedpoint' idname='far'", "") + "</Objects></l>";
+
+TEST(Saves, BringBackTheSkyThatThePlayerCameTo) {
+    RunGame game;
+    game.write("maps/t.xml", savesLevel);
+    game.script(
+        "0 map t\n4 savegame s\n8 map t\n8 warpto far\n9 dumpstate before.xml\n"
+        "10 loadgame s\n10 warpto far\n12 dumpstate\n");
+    ASSERT_EQ(game.headless({"--frames", "14"}), 0);
+    EXPECT_NE(game.read("before.xml").find("current=\"data/sky/default.xml\""), std::string::npos);
+    EXPECT_NE(game.read("statedump.xml").find("current=\"data/sky/nebula.xml\""),
+              std::string::npos);
+}
+
+TEST(Saves, OlderOnesThatSayLessLoadAsTheyWereMeant) {
+    RunGame game;
+    game.write("maps/t.xml", savesLevel);
+    game.write("waves/w.xml", "<w><event time='0' target='m'/><event time='5000' target='m'/></w>");
+    const std::string moves = "solid='true' visible='true' entity='true' mass='5'";
+    game.write(
+        "saves/old.xml",
+        "<save currentlevel='t' nextbodyid='9' timer='0,3000,3000,1000,true'><Objects>" +
+            bodyAt(500, 500, "type='debugmoveable' idname='b'",
+                   "<custom pos='515,515' autoid='5' health='500' takedamage='true'/>", moves) +
+            bodyAt(440, 505, "type='rocketprojectile' idname='r'",
+                   "<custom pos='455,515' vel='400,0' frozenvel='400,0' autoid='6'/>",
+                   "solid='false' visible='true' entity='true' mass='5'") +
+            bodyAt(0, 600, "type='wavecontroller' idname='w'",
+                   attribute("wavefile", "waves/w.xml") +
+                       "<custom pos='15,615' autoid='7' active='true' starttime='1000'/>",
+                   "entity='true'") +
+            "</Objects></save>");
+    game.script("0 map t\n0 difficulty 3\n0 logdamage 1\n0 logtriggers 1\n2 loadgame old\n");
+    ASSERT_EQ(game.headless({"--frames", "60"}), 0);
+    EXPECT_NE(game.log().find("damage 5 amount 110 type 32 absorbed 0 health 390"),
+              std::string::npos);
+    // The first event of the timetable was over, the second is not due yet.
+    EXPECT_EQ(game.log().find("triggered"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace bc
