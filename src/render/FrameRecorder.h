@@ -32,7 +32,7 @@ class FrameRecorder {
     void operation(std::string_view name, const Arguments&... arguments) {
         if (!out_)
             return;
-        *out_ << name;
+        put(name);
         (write(arguments), ...);
         *out_ << '\n';
     }
@@ -43,7 +43,15 @@ class FrameRecorder {
     }
     void write(std::integral auto number) { *out_ << ' ' << +number; }
     void write(bool flag) { *out_ << ' ' << boolText(flag); }
-    void write(std::string_view text) { *out_ << ' ' << text; }
+    void write(std::string_view text) {
+        *out_ << ' ';
+        put(text);
+    }
+    /// A line break in a text or a name of a level would tear the line apart.
+    void put(std::string_view text) {
+        for (const char c : text)
+            out_->put(static_cast<unsigned char>(c) < ' ' ? ' ' : c);
+    }
 
     std::unique_ptr<std::ostream> waiting_;
     std::unique_ptr<std::ostream> out_;

@@ -206,6 +206,7 @@ TEST_F(HeadlessRendererTest, DumpsOneFrameOperationByOperation) {
         renderer.drawImage(1, 2, 0, 3.5F, 4, "a.png", true, false);
         renderer.bindTextureId(renderer.getTextureId("a.png"));
         renderer.bindTextureId(99);
+        renderer.noteInDump("text \"two\nlines\"");
         renderer.end2D();
         renderer.drawBody(body);
     };
@@ -216,6 +217,7 @@ TEST_F(HeadlessRendererTest, DumpsOneFrameOperationByOperation) {
               "drawImage 1 2 0 3.5 4 a.png true false\n"
               "bindTextureId a.png\n"
               "bindTextureId none\n"
+              "text \"two lines\"\n"
               "end2D\n"
               "drawBody default generic 0 0 0 0 untextured\n");
 }
