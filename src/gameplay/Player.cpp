@@ -237,11 +237,13 @@ void Player::revive() {
 
 void Player::onLoaded() {
     revive();
-    // A save knows that a power-up is in force, but not its glow.
+    // A save knows that a power-up or a burst is in force, but not its glow.
     if (hasQuad && !hasEffect(quadEffect))
         addQuadEffect();
     if (hasInvinc && !hasEffect(invincibleEffect))
         addInvincibleEffect();
+    if (boostLeft > 0 && !hasEffect(exhaustEffect))
+        startExhaust();
 }
 
 bool Player::hasEffect(std::string_view name) const {
