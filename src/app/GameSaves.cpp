@@ -155,6 +155,8 @@ void Game::restorePlayer(const TiXmlElement& node, bool revives) {
     if (revives)
         playerBody()->revivePending = true;
     player_->autoid = World::playerId;
+    // Whatever a save says, the craft is there to stay.
+    player_->cancleanup = false;
     player_->onBeforeTargets();
     player_->onLoaded();
     player_->onRestored();

@@ -214,6 +214,7 @@ TEST(Saves, BadOnesLeaveTheRunningLevelOrLoadWhatTheyCan) {
          replaced(replaced(good, "health=\"100\"", "health=\"99999999999999\""), "vel=\"0,0,0\"",
                   "vel=\"1e38,nan,-inf\""),
          true},
+        {"cleanup", replaced(good, "cancleanup=\"false\"", "cancleanup=\"true\""), true},
         {"ids", replaced(good, "autoid=\"", "autoid=\"-2147483649"), true},
         {"order",
          replaced(replaced(good, "turns=\"", "turns=\"+99999999,,-1,x,2,2,"), "reach=\"",
@@ -232,6 +233,7 @@ TEST(Saves, BadOnesLeaveTheRunningLevelOrLoadWhatTheyCan) {
         const std::string dump = game.read("worlddump.xml");
         EXPECT_NE(dump.find("levelloaded=\"true\""), std::string::npos) << c.name;
         EXPECT_EQ(dump.find("nan"), std::string::npos) << c.name;
+        EXPECT_NE(dump.find("type=\"player\""), std::string::npos) << c.name;
         // The refused ones left the level that ran: its steps go on counting.
         EXPECT_EQ(dump.find(" step=\"39\"") != std::string::npos, refused) << c.name;
     }
