@@ -16,6 +16,9 @@ namespace bc {
 
 namespace {
 
+/// Milliseconds between two attempts at a level that cannot be loaded.
+constexpr float retryDelay = 2000;
+
 void readMapName(const Attributes& given, const char* name, std::string& out) {
     std::string map;
     given.read(name, map);
@@ -67,8 +70,13 @@ void LevelChange::onTouch(const TouchInfo& info) {
     IGame* game = GameplaySingleton::instance().game();
     if (player == nullptr || game == nullptr)
         return;
-    if (!game->isMapLoadPending())
+    if (!game->isMapLoadPending()) {
+        // Still here, so that the level could not be loaded: ask again at leisure.
+        if (levelTime() < nextTry_)
+            return;
+        nextTry_ = levelTime() + retryDelay;
         recordTime(*game, *player);
+    }
     if (isCutscene)
         game->showCutscene(cutscene);
     else

@@ -23,6 +23,10 @@ class LevelChange final : public GameBody {
     std::string targetSpawn;
     bool isCutscene = false;
     std::string cutscene;
+
+  private:
+    /// Level time (ms) from which a failed change is tried again.
+    float nextTry_ = 0;
 };
 
 }  // namespace bc
