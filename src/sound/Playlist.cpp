@@ -65,19 +65,26 @@ void Playlist::play(int index) {
     splitExtension(path, base, extension);
     if (equalsNoCase(extension, ".mp3")) {
         mixer_.haltMusic();
-        announce("MP3s aren't supported: " + path);
+        fail("MP3s aren't supported: " + path);
         return;
     }
     const auto file = files::resolve(path);
     auto music = file ? mixer_.loadMusic(*file) : nullptr;
     mixer_.haltMusic();
     if (!music) {
-        announce("Mix_LoadMUS failed for: " + path);
+        fail("Mix_LoadMUS failed for: " + path);
         return;
     }
     music_ = std::move(music);
-    if (!mixer_.playMusic(*music_))
-        announce("Mix_PlayMusic failed for: " + path);
+    if (mixer_.playMusic(*music_))
+        failures_ = 0;
+    else
+        fail("Mix_PlayMusic failed for: " + path);
+}
+
+void Playlist::fail(const std::string& message) {
+    ++failures_;
+    announce(message);
 }
 
 void Playlist::stop() {
@@ -96,6 +103,7 @@ void Playlist::printInfo() {
 void Playlist::setTracks(std::vector<std::string> tracks) {
     tracks_ = std::move(tracks);
     index_ = -1;
+    failures_ = 0;
 }
 
 std::string Playlist::currentTrack() const {

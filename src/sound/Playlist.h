@@ -4,6 +4,7 @@
 
 #include "core/IPlaylist.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -38,11 +39,18 @@ class Playlist final : public IPlaylist {
     [[nodiscard]] int currentIndex() const { return index_; }
     /// The path of the current track, empty when there is none.
     [[nodiscard]] std::string currentTrack() const;
+    /// Whether no track of the list has played since a whole round of them was tried.
+    [[nodiscard]] bool isUnplayable() const { return failures_ >= tracks_.size(); }
+    /// Every track is worth another try, as after a change of the device.
+    void retry() { failures_ = 0; }
 
   private:
+    void fail(const std::string& message);
+
     Mixer& mixer_;
     std::vector<std::string> tracks_;
     int index_ = -1;
+    std::size_t failures_ = 0;  ///< tracks in a row that did not play
     std::unique_ptr<MixerMusic> music_;
 };
 

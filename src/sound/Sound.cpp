@@ -84,6 +84,7 @@ bool Sound::openAudio() {
     applyVolume();
     applyMusicVolume();
     resumeLoops();
+    playlist_.retry();
     if (!waitingDefs_.empty())
         loadSoundDefs(std::exchange(waitingDefs_, {}));
     return true;
@@ -329,8 +330,10 @@ void Sound::nextTrack() {
 }
 
 void Sound::update() {
-    // Without a device no track ever starts, and trying each frame would fill the log.
-    if (initialised_ && !mixer_->isMusicPlaying() && !mixer_->isMusicPaused())
+    // Without a device or a single sound track nothing ever starts, and trying each frame would
+    // fill the log.
+    if (initialised_ && !playlist_.isUnplayable() && !mixer_->isMusicPlaying() &&
+        !mixer_->isMusicPaused())
         nextTrack();
     musicFinished_ = false;
 }

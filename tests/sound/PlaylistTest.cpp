@@ -65,8 +65,14 @@ TEST_F(PlaylistTest, WhatDoesNotPlayIsSaidAndLeavesSilence) {
         EXPECT_THAT(printed([&] { list.play(i); }), ElementsAre(messages[i]));
         EXPECT_FALSE(mixer.isMusicPlaying());
     }
+    list.previous();
+    list.previous();
+    EXPECT_FALSE(list.isUnplayable());
     mixer.close();
     EXPECT_THAT(printed([&] { list.play(0); }), ElementsAre("Mix_PlayMusic failed for: a.ogg"));
+    EXPECT_TRUE(list.isUnplayable());
+    list.retry();
+    EXPECT_FALSE(list.isUnplayable());
 }
 
 TEST_F(PlaylistTest, AnEmptyListStaysQuiet) {
