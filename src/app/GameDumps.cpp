@@ -26,6 +26,7 @@
 
 #include <tinyxml.h>
 
+#include <charconv>
 #include <cmath>
 #include <locale>
 #include <optional>
@@ -88,6 +89,14 @@ std::optional<Vector> readPlace(const std::string& text) {
     const bool isFar =
         std::fabs(v[0]) > Body::maxCoordinate || std::fabs(v[1]) > Body::maxCoordinate;
     return isFar ? std::nullopt : std::optional(Vector(v[0], v[1]));
+}
+
+/// A whole number and nothing else: many bodies share the id 0, which a slip must not name.
+std::optional<int> readId(const std::string& text) {
+    int id = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
+    const bool isWhole = error == std::errc() && end == text.data() + text.size();
+    return isWhole ? std::optional(id) : std::nullopt;
 }
 
 std::string boxText(const Vector& v) {
@@ -271,12 +280,14 @@ void GameDumps::trace() {
 }
 
 void GameDumps::sees() {
-    if (commands().argCount() < 2) {
+    const std::optional<int> fromId = readId(commands().arg(0));
+    const std::optional<int> toId = readId(commands().arg(1));
+    if (!fromId || !toId) {
         consolePrint("Usage: sees id id [file]");
         return;
     }
-    const Body* from = game_.world_.findById(parseInt(commands().arg(0)));
-    const Body* to = game_.world_.findById(parseInt(commands().arg(1)));
+    const Body* from = game_.world_.findById(*fromId);
+    const Body* to = game_.world_.findById(*toId);
     if (from == nullptr || to == nullptr) {
         consolePrint("No body has the id " + commands().arg(from == nullptr ? 0 : 1));
         return;
