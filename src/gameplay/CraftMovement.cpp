@@ -43,7 +43,7 @@ Engines flightEngines() {
 
 /// Also keeps count of the time in the air.
 Engines platformEngines(Player& player) {
-    const bool grounded = player.contact;
+    const bool grounded = player.contact || player.standsOnEarlier;
     if (grounded) {
         player.canJump = true;
         player.airTime = 0;
@@ -103,6 +103,7 @@ void moveCraft(Player& player, const ActionState& held, bool platform, float dt)
             thrust = thrustAlong(engines, {player.aim.x, player.aim.y});
         thrust *= boostFactor;
     }
+    player.standsOnEarlier = false;
     if (platform) {
         player.contact = false;
         player.airTime += dt;

@@ -195,9 +195,9 @@ void Player::onTouch(const TouchInfo& touch) {
     // without this the craft could not jump from crates. The normal points at the first of the
     // pair.
     const Vector apart = pos - other.pos;
-    const bool isFirst = touch.normal->x * apart.x + touch.normal->y * apart.y >= 0;
-    const float upwards = isFirst ? touch.normal->y : -touch.normal->y;
-    contact = contact || upwards >= leastStanding;
+    const bool isSecond = touch.normal->x * apart.x + touch.normal->y * apart.y < 0;
+    if (isSecond && -touch.normal->y >= leastStanding)
+        standsOnEarlier = true;
 }
 
 void Player::die() {

@@ -27,7 +27,7 @@ class Player final : public GameBody, public HudPlayer {
     void die() override;
     void think(float dt) override;
     void onLoaded() override;
-    /// Stands on what it touches from above, also when that is the first of the pair.
+    /// Notes what it stands on that is the first of the pair.
     void onTouch(const TouchInfo& touch) override;
     void drawExtras(IRenderer& renderer) override;
     void loadState(const TiXmlElement& e) override;
@@ -86,6 +86,8 @@ class Player final : public GameBody, public HudPlayer {
     /// Since the craft last touched ground, in platform mode.
     float airTime = 0;
     bool canJump = true;
+    /// Stands on what had its turn before it, which contact does not tell; until the next movement.
+    bool standsOnEarlier = false;
     /// What is left of a burst of the boosters, and until they have recharged.
     float boostLeft = 0;
     float boostRecharge = 0;

@@ -15,6 +15,7 @@ void Player::saveState(TiXmlElement& e) const {
     progress.saveState(e);
     xml::writeFloat(e, "airtime", airTime);
     xml::writeBool(e, "canjump", canJump);
+    xml::writeBool(e, "standsonearlier", standsOnEarlier);
     xml::writeFloat(e, "boostleft", boostLeft);
     xml::writeFloat(e, "boostrecharge", boostRecharge);
 }
@@ -25,6 +26,7 @@ void Player::loadState(const TiXmlElement& e) {
     progress.loadState(e);
     airTime = xml::readFloat(e, "airtime");
     canJump = !xml::has(e, "canjump") || xml::readBool(e, "canjump");
+    standsOnEarlier = xml::readBool(e, "standsonearlier");
     boostLeft = xml::readFloat(e, "boostleft");
     boostRecharge = xml::readFloat(e, "boostrecharge");
     // Saved between death and the loading of the last save.
