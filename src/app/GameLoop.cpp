@@ -154,8 +154,9 @@ void Game::runFramePaused() {
     renderer_->begin2D();
     renderer_->setTexturing(true);
     renderer_->setColour(255, 255, 255, 150);
-    renderer_->drawImage(static_cast<float>(renderer_->getWidth() / 2 - 128),
-                         static_cast<float>(renderer_->getHeight() / 2 - 32), 0, 256, 64,
+    const int left = renderer_->getWidth() / 2 - 128;
+    const int bottom = renderer_->getHeight() / 2 - 32;
+    renderer_->drawImage(static_cast<float>(left), static_cast<float>(bottom), 0, 256, 64,
                          "data/images/paused.png");
     renderer_->end2D();
 }

@@ -67,7 +67,7 @@ void Spawner::spawn() {
     auto* child = dynamic_cast<GameBody*>(made.get());
     if (child == nullptr)
         return;
-    made.release();
+    (void)made.release();
     std::unique_ptr<GameBody> owned(child);
     child->makeDefaultShape();
     child->computeBounds();

@@ -56,6 +56,7 @@ std::vector<Body*> QuadTree::inOrder() const {
     std::sort(entries.begin(), entries.end(),
               [](const IndexEntry* a, const IndexEntry* b) { return a->sequence < b->sequence; });
     std::vector<Body*> bodies;
+    bodies.reserve(entries.size());
     for (const IndexEntry* entry : entries)
         bodies.push_back(entry->body);
     return bodies;
