@@ -220,6 +220,7 @@ TEST(Levels, EveryBayOfTheWorkshopWorks) {
     game.script(script);
     ASSERT_EQ(game.headless({"--frames", std::to_string(pass)}), 0) << game.standardError();
     std::vector<Dump> dumped;
+    dumped.reserve(static_cast<std::size_t>(dumps));
     for (int i = 0; i < dumps; ++i)
         dumped.emplace_back(game.read("w" + std::to_string(i)) +
                             game.read("s" + std::to_string(i)));

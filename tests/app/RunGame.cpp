@@ -57,6 +57,7 @@ int RunGame::run(std::vector<std::string> args) {
         all.insert(all.end(), {"--script", scriptFile_});
     all.insert(all.end(), args.begin(), args.end());
     std::vector<char*> argv;
+    argv.reserve(all.size() + 1);
     for (std::string& a : all)
         argv.push_back(a.data());
     argv.push_back(nullptr);

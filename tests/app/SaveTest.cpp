@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <tinyxml.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <sstream>
 
@@ -30,7 +31,7 @@ std::string played(const std::string& dump) {
     return text;
 }
 
-/// The first line that differs, of either.
+/// The first line that differs, of either; the last one when the shorter is the longer's beginning.
 std::string difference(const std::string& a, const std::string& b) {
     std::istringstream left(a);
     std::istringstream right(b);
@@ -38,8 +39,8 @@ std::string difference(const std::string& a, const std::string& b) {
     std::string r;
     while (std::getline(left, l) && std::getline(right, r))
         if (l != r)
-            return l + '\n' + r;
-    return "the same as far as both go";
+            break;
+    return l.append("\n").append(r);
 }
 
 struct Continuation {
@@ -132,13 +133,15 @@ TEST(Saves, AreWholeWheneverTheProcessDies) {
     game.script(writing);
     prepare(game);
     const std::vector<const char*> files = {"saves/s.xml", "saves/s.png", settings};
-    std::vector<std::string> before;
-    for (const char* file : files)
-        before.push_back(game.read(file));
+    const auto readAll = [&] {
+        std::vector<std::string> texts(files.size());
+        std::transform(files.begin(), files.end(), texts.begin(),
+                       [&](const char* file) { return game.read(file); });
+        return texts;
+    };
+    const std::vector<std::string> before = readAll();
     ASSERT_EQ(game.headless({"--frames", "5"}), 0);
-    std::vector<std::string> after;
-    for (const char* file : files)
-        after.push_back(game.read(file));
+    const std::vector<std::string> after = readAll();
     ASSERT_NE(before, after);
 
     int deaths = 0;

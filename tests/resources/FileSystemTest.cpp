@@ -9,7 +9,6 @@
 namespace bc {
 namespace {
 
-using testing::HasSubstr;
 using testing::Optional;
 namespace fs = std::filesystem;
 

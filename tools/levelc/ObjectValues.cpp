@@ -82,7 +82,10 @@ void ObjectValues::checkValue(const Param& param, const std::string& text,
     if (fault.empty() && param.type == ParamType::Wave) {
         for (const std::string& target : around.assets.waveTargets(text))
             if (around.names.count(target) == 0)
-                fault = text + " triggers " + target + ", which is no object";
+                fault.assign(text)
+                    .append(" triggers ")
+                    .append(target)
+                    .append(", which is no object");
     }
     if (!fault.empty())
         faults_.push_back("property " + param.name + ": " + fault);
