@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // Levels and saves: whatever is read is placed, simulated, traced and written again.
+#include "FuzzXml.h"
+
 #include "resources/XmlAttributes.h"
-#include "resources/XmlGuard.h"
 #include "world/BodyFactory.h"
 #include "world/LevelLoader.h"
 #include "world/World.h"
@@ -45,14 +46,9 @@ void expectSound(const bc::World& world) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const bool quiet = std::freopen("/dev/null", "w", stdout) != nullptr;
-    const std::string text(data, data + size);
-    if (!quiet || !bc::xmlRefusal(text).empty())
-        return 0;
     TiXmlDocument document;
-    document.Parse(text.c_str(), nullptr,
-                   bc::isUtf8(text) ? TIXML_DEFAULT_ENCODING : TIXML_ENCODING_LEGACY);
-    const TiXmlElement* root = document.RootElement();
-    if (document.Error() || root == nullptr)
+    const TiXmlElement* root = readFuzzed(data, size, document);
+    if (!quiet || root == nullptr)
         return 0;
 
     bc::BodyFactory factory;

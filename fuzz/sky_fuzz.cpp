@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // Sky files: whatever is read is also drawn for a while.
+#include "FuzzXml.h"
+
 #include "render/BaseSky.h"
 #include "render/HeadlessRenderer.h"
-#include "resources/XmlGuard.h"
 
 #include <tinyxml.h>
 
@@ -11,14 +12,9 @@
 #include <string>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string text(data, data + size);
-    if (!bc::xmlRefusal(text).empty())
-        return 0;
     TiXmlDocument document;
-    document.Parse(text.c_str(), nullptr,
-                   bc::isUtf8(text) ? TIXML_DEFAULT_ENCODING : TIXML_ENCODING_LEGACY);
-    const TiXmlElement* root = document.RootElement();
-    if (document.Error() || root == nullptr)
+    const TiXmlElement* root = readFuzzed(data, size, document);
+    if (root == nullptr)
         return 0;
     static bc::HeadlessRenderer renderer;
     bc::BaseSky sky;
