@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
+#include "RendererFixture.h"
+
 #include "core/Drawable.h"
 #include "core/Quad.h"
 #include "core/Vertex.h"
 #include "render/Renderer.h"
-#include "support/DisplayFixture.h"
 
 #include <string>
 #include <utility>
@@ -16,36 +17,7 @@ namespace {
 using test::isColour;
 using test::Pixel;
 
-class RendererDisplayTest : public test::DisplayFixture {
-  protected:
-    // Red, green over blue, white: tells every orientation.
-    void makeQuarters(const std::string& name, int side = 32) {
-        put(data() + "/" + name, test::png(side, side, 32, [side](int x, int y) {
-                const bool right = x >= side / 2;
-                if (y < side / 2)
-                    return right ? Pixel{0, 255, 0, 255} : Pixel{255, 0, 0, 255};
-                return right ? Pixel{255, 255, 255, 255} : Pixel{0, 0, 255, 255};
-            }));
-    }
-    void begin2D() {
-        renderer->beginFrame();
-        renderer->begin2D();
-    }
-    void finish() {
-        look();
-        renderer->end2D();
-        renderer->endFrame();
-    }
-    // A frame over a point, with the game's usual distance.
-    void beginWorld(float x, float y) {
-        camera = Vector(x, y);
-        renderer->beginFrame();
-        renderer->setCamera(x, y, -256);
-    }
-    test::Seen world(float x, float y) const { return atWorld(x, y, camera); }
-
-    Vector camera;
-};
+class RendererDisplayTest : public test::RendererFixture {};
 
 TEST_F(RendererDisplayTest, ImagesStandUprightWithTheirTopLeftCornerWhereItWasAsked) {
     makeQuarters("q.png");
@@ -287,154 +259,6 @@ TEST_F(RendererDisplayTest, ScissorCutsAndDoesNotReachTheNextFrame) {
     begin2D();
     finish();
     EXPECT_TRUE(isColour(at(20, 20), 0, 0, 0)) << "the frame was not cleared as a whole";
-}
-
-Drawable box(float x, float y, float half) {
-    Drawable body;
-    body.renderpos = Vector(x, y);
-    body.localVertices = {Vector(-half, -half), Vector(half, -half), Vector(half, half),
-                          Vector(-half, half)};
-    body.colours.assign(4, RGBAColour(0, 0, 200));
-    body.outlined = false;
-    return body;
-}
-
-TEST_F(RendererDisplayTest, BodiesStandTurnedAtTheirPlace) {
-    makeQuarters("q.png");
-    Drawable plain = box(100, 100, 20);
-    // The upper right quarter of a long box turned clockwise by 90 degrees points down.
-    Drawable turned = box(200, 100, 10);
-    turned.localVertices = {Vector(0, 0), Vector(60, 0), Vector(60, 10), Vector(0, 10)};
-    turned.angle = 3.14159265F / 2;
-    Drawable textured = box(0, 0, 20);
-    textured.textured = true;
-    textured.texture = "q.png";
-    textured.clampTexture = true;
-    textured.colours.assign(4, RGBAColour(255, 255, 255));
-    textured.texCoords = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
-    Drawable hidden = box(-100, 0, 20);
-    hidden.visible = false;
-    beginWorld(100, 50);
-    for (Drawable* body : {&plain, &turned, &textured, &hidden})
-        renderer->drawBody(*body);
-    look();
-    renderer->endFrame();
-    EXPECT_TRUE(isColour(world(100, 100), 0, 0, 200));
-    EXPECT_TRUE(isColour(world(118, 118), 0, 0, 200));
-    EXPECT_TRUE(isColour(world(123, 100), 0, 0, 0));
-    EXPECT_TRUE(isColour(world(205, 50), 0, 0, 200));
-    EXPECT_TRUE(isColour(world(195, 50), 0, 0, 0));
-    EXPECT_TRUE(isColour(world(205, 110), 0, 0, 0));
-    EXPECT_TRUE(isColour(world(-10, 10), 255, 0, 0));
-    EXPECT_TRUE(isColour(world(10, -10), 255, 255, 255));
-    EXPECT_TRUE(isColour(world(-100, 0), 0, 0, 0));
-    EXPECT_EQ(textured.textureHandle, renderer->getTextureId("q.png"));
-}
-
-TEST_F(RendererDisplayTest, OutlinesFollowTheCornersButDoNotClose) {
-    makeImage("data/particles/brightpart.tga", 8, {255, 255, 255, 255});
-    Drawable body = box(0, 0, 50);
-    body.outlined = true;
-    body.outlinecolour = RGBAColour(0, 255, 0);
-    beginWorld(0, 0);
-    renderer->drawBody(body);
-    look();
-    renderer->endFrame();
-    EXPECT_TRUE(isColour(world(0, -50), 0, 255, 0));
-    EXPECT_TRUE(isColour(world(51, 0), 0, 255, 0));
-    EXPECT_TRUE(isColour(world(0, 51), 0, 255, 0));
-    EXPECT_TRUE(isColour(world(-49, 0), 0, 0, 200));
-    vars().setVar("drawoutlines", "0");
-    beginWorld(0, 0);
-    renderer->drawBody(body);
-    look();
-    renderer->endFrame();
-    EXPECT_TRUE(isColour(world(0, -49), 0, 0, 200));
-    EXPECT_TRUE(isColour(world(0, -52), 0, 0, 0));
-}
-
-struct MovingTexture final : Drawable {
-    bool hasTextureTransform() const override { return true; }
-    void textureTransform(TextureTransform& t) override {
-        t.offsetX = 0.5F;
-        t.scaleX = 0;
-        t.scaleY = 0;
-        t.offsetY = 0.25F;
-    }
-};
-
-TEST_F(RendererDisplayTest, TexturesMoveWithTheBodyThatAsksForItOnly) {
-    makeQuarters("q.png");
-    MovingTexture moving;
-    static_cast<Drawable&>(moving) = box(-60, 0, 40);
-    moving.textured = true;
-    moving.texture = "q.png";
-    moving.colours.clear();
-    moving.texCoords = {{0.1F, 0.1F}, {0.2F, 0.9F}};
-    Drawable still = box(60, 0, 40);
-    still.textured = true;
-    still.texture = "q.png";
-    still.texCoords.assign(4, {0.25F, 0.75F});
-    still.colours.assign(4, RGBAColour(255, 255, 255));
-    // The point at (0.5, 0.25) lies between blue and white; a little scale tells the side.
-    beginWorld(0, 0);
-    renderer->drawBody(moving);
-    renderer->drawBody(still);
-    look();
-    renderer->endFrame();
-    EXPECT_TRUE(isColour(world(-60, 0), 128, 128, 255, 30));
-    EXPECT_TRUE(isColour(world(60, 0), 255, 0, 0));
-}
-
-TEST_F(RendererDisplayTest, GlowLiesAroundTheBodyButNotInTheBloomPass) {
-    makeImage("glow.png", 8, {0, 255, 0, 100});
-    Drawable body = box(0, 0, 40);
-    body.hasGlow = true;
-    body.glowTexture = "glow.png";
-    body.glowSteps = 2;
-    const auto draw = [&] {
-        beginWorld(0, 0);
-        renderer->drawBody(body);
-        look();
-        renderer->endFrame();
-    };
-    draw();
-    // 100 of the first pass and half of that of the second.
-    EXPECT_TRUE(isColour(world(0, 0), 0, 150, 200, 8));
-    EXPECT_TRUE(isColour(world(55, 0), 0, 150, 0, 8));
-    EXPECT_TRUE(isColour(world(65, 0), 0, 0, 0));
-    renderer->beginBloomCapture();
-    beginWorld(0, 0);
-    renderer->drawBody(body);
-    look();
-    renderer->endBloomCapture();
-    renderer->endFrame();
-    EXPECT_TRUE(isColour(at(128, 128), 0, 0, 200));
-}
-
-TEST_F(RendererDisplayTest, BloomSpreadsWhatWasCapturedByTheSettingInPixels) {
-    for (const auto& [setting, blur] : {std::pair("0", 4), {"12", 12}}) {
-        vars().setVar("bloomblurpixels", setting);
-        renderer->beginFrame();
-        renderer->setCamera(0, 0, -256);
-        renderer->beginBloomCapture();
-        EXPECT_TRUE(renderer->isCapturingBloom());
-        renderer->setTexturing(false);
-        renderer->setBlending(false);
-        renderer->setColour(255, 255, 255);
-        renderer->drawQuad(-128, 128, 0, 128, 256);
-        renderer->endBloomCapture();
-        EXPECT_FALSE(renderer->isCapturingBloom());
-        renderer->drawBloom();
-        look();
-        renderer->endFrame();
-        // Four copies of a tenth each in the middle, two of them beyond the edge at 320.
-        EXPECT_TRUE(isColour(at(260, 240), 104, 104, 104, 8));
-        EXPECT_TRUE(isColour(at(320, 240), 52, 52, 52, 12));
-        EXPECT_TRUE(isColour(at(320 + blur + 5, 240), 0, 0, 0));
-        EXPECT_TRUE(isColour(at(320 - blur - 5, 240), 104, 104, 104, 8));
-        EXPECT_TRUE(isColour(at(260, 20), 0, 0, 0)) << "the capture itself was not cleared away";
-    }
 }
 
 TEST_F(RendererDisplayTest, ChangingTheModeKeepsDrawingAndForgetsTextures) {
