@@ -4,7 +4,7 @@
 // backdrop at 1024 x 768 through IRenderer, and the same corners by one glDrawArrays a texture,
 // both in one context. Processor time of all threads counts, since a software renderer works on
 // several. Needs a display: tests/with_display bench/frame_bench
-#include "console/GameVar.h"
+#include "command/GameVar.h"
 #include "core/Ticks.h"
 #include "render/Renderer.h"
 #include "resources/FileSystem.h"

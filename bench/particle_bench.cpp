@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Moving particles: the manager against bare arrays that do the same arithmetic and nothing else.
 #include "particles/ParticleManager.h"
-#include "render/Frustum.h"
+#include "view/Frustum.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,10 +4,10 @@
 // may run itself.
 #include "FuzzFolder.h"
 
-#include "console/CommandRegistry.h"
-#include "console/Console.h"
-#include "console/GameInput.h"
-#include "console/GameVar.h"
+#include "command/CommandRegistry.h"
+#include "command/GameVar.h"
+#include "input/Console.h"
+#include "input/GameInput.h"
 
 #include <cstdlib>
 #include <sstream>

@@ -3,7 +3,7 @@
 // Image files: what the guard lets through is decoded.
 #include "FuzzFolder.h"
 
-#include "render/Image.h"
+#include "render/ImageFile.h"
 
 #include <cstdint>
 

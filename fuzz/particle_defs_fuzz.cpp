@@ -4,7 +4,7 @@
 #include "FuzzXml.h"
 
 #include "particles/ParticleManager.h"
-#include "render/Frustum.h"
+#include "view/Frustum.h"
 
 #include <tinyxml.h>
 

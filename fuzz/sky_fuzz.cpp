@@ -3,8 +3,8 @@
 // Sky files: whatever is read is also drawn for a while.
 #include "FuzzXml.h"
 
-#include "render/BaseSky.h"
 #include "render/HeadlessRenderer.h"
+#include "sky/BaseSky.h"
 
 #include <tinyxml.h>
 

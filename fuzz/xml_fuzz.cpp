@@ -3,8 +3,8 @@
 // Loads the input as XML. What the guard lets through must never nest deeper than it promises.
 #include "FuzzFolder.h"
 
-#include "console/GameVar.h"
-#include "console/InputManager.h"
+#include "command/GameVar.h"
+#include "input/InputManager.h"
 #include "resources/ResourceManager.h"
 #include "resources/XmlGuard.h"
 

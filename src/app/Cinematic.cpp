@@ -3,7 +3,7 @@
 #include "app/Cinematic.h"
 
 #include "app/Game.h"
-#include "core/IRenderer.h"
+#include "ports/IRenderer.h"
 
 namespace bc {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/CommandFile.h"
 
-#include "console/CommandRegistry.h"
+#include "command/CommandRegistry.h"
 #include "resources/FileSystem.h"
 
 namespace bc {

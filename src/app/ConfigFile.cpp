@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 // The configuration file: what is bound and set, as command lines.
 #include "app/Game.h"
-#include "console/GameInput.h"
-#include "console/GameVar.h"
+#include "command/GameVar.h"
+#include "gameplay/player/GameplayInput.h"
 #include "resources/FileSystem.h"
 
 #include <sstream>

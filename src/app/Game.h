@@ -6,10 +6,11 @@
 #include "app/FrameScript.h"
 #include "app/Options.h"
 #include "app/SkyWiring.h"
-#include "console/InputManager.h"
 #include "core/BasicTimer.h"
-#include "core/IGame.h"
-#include "render/SkyManager.h"
+#include "gameplay/player/PlayerControl.h"
+#include "input/InputManager.h"
+#include "ports/IGame.h"
+#include "sky/SkyManager.h"
 #include "world/World.h"
 
 #include <cstdint>
@@ -21,7 +22,7 @@ class TiXmlElement;
 
 namespace bc {
 
-class GameInput;
+class GameplayInput;
 class GameVar;
 class Player;
 class Sound;
@@ -90,10 +91,10 @@ class Game final : public IGame {
     InputManager* getInputManager() override { return &input_; }
     IGUI* getGUIManager() override;
     Console* getConsole() override { return console_.get(); }
-    InputTarget* getGameInput() override;
+    GameInput* getGameInput() override;
     BasicTimer* getTimer() override { return &frameClock_; }
     SkyManager* getSkyManager() override { return &skyManager_; }
-    Body* getPlayer() override { return player_.get(); }
+    Body* getPlayer() override;
     void setPlayer(Body* player) override;
     BodyFactory* getBodyFactory() override { return bodyFactory_.get(); }
     IGameplay* getGameplay() override { return gameplay_.get(); }
@@ -158,7 +159,6 @@ class Game final : public IGame {
     void enterLevel();
     void insertPlayer();
     void restorePlayer(const TiXmlElement& node, bool revives);
-    [[nodiscard]] Player* playerBody() const;
     void requestSaveAs(const std::string& name);
     [[nodiscard]] Vector cameraTarget();
     [[nodiscard]] float zoom() const;
@@ -175,8 +175,11 @@ class Game final : public IGame {
     std::unique_ptr<class GUIManager> gui_;
     InputManager input_;
     std::unique_ptr<Console> console_;
-    std::unique_ptr<GameInput> gameInput_;
-    std::unique_ptr<Body> player_;
+    std::unique_ptr<GameplayInput> gameInput_;
+    PlayerControl control_;
+    /// What the player aims at, from the picture drawn last.
+    Vector aimedAt_;
+    std::unique_ptr<Player> player_;
     std::unique_ptr<BodyFactory> bodyFactory_;
     World world_;
     ParticleSkySystems skyParticles_;

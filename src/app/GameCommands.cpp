@@ -6,13 +6,13 @@
 #include "app/GameDumps.h"
 #include "app/GameHandles.h"
 #include "app/Version.h"
-#include "console/CommandRegistry.h"
-#include "console/Console.h"
-#include "core/FontRenderer.h"
-#include "core/IRenderer.h"
+#include "command/CommandRegistry.h"
 #include "core/Log.h"
-#include "gameplay/Player.h"
+#include "gameplay/player/Player.h"
 #include "gui/GUIManager.h"
+#include "input/Console.h"
+#include "ports/FontRenderer.h"
+#include "ports/IRenderer.h"
 #include "resources/FileSystem.h"
 
 #include <SDL/SDL.h>
@@ -137,13 +137,10 @@ void Game::registerLevelCommands() {
 void Game::registerPlayerCommands() {
     CommandRegistry& c = commands();
     c.registerCommand("turn player collisions off", "noclip", [this] {
-        Player* player = playerBody();
-        if (player == nullptr)
-            return;
         noclip_ = !noclip_;
         consolePrint(noclip_ ? "Noclip on" : "Noclip off");
-        player->solid = !noclip_;
-        player->gravitymultiplier = noclip_ ? 0.0F : 1.0F;
+        player_->solid = !noclip_;
+        player_->gravitymultiplier = noclip_ ? 0.0F : 1.0F;
     });
     c.registerCommand("warp to 0 0 0", "warp", [this] { player_->setPosition(Vector()); });
 }

@@ -5,20 +5,21 @@
 #include "app/CommandFile.h"
 #include "app/Game.h"
 #include "app/GameHandles.h"
-#include "console/CommandRegistry.h"
-#include "console/Console.h"
-#include "console/GameInput.h"
-#include "core/IRenderer.h"
+#include "command/CommandRegistry.h"
 #include "core/Log.h"
 #include "core/Text.h"
-#include "gameplay/DefaultGameplay.h"
-#include "gameplay/GameplaySingleton.h"
-#include "gameplay/Player.h"
-#include "gameplay/Sight.h"
+#include "gameplay/actors/GameplaySingleton.h"
+#include "gameplay/actors/Race.h"
+#include "gameplay/actors/Sight.h"
+#include "gameplay/player/GameplayInput.h"
+#include "gameplay/player/Player.h"
+#include "gameplay/rules/DefaultGameplay.h"
 #include "gui/GUIManager.h"
+#include "hud/GameHUD.h"
+#include "hud/OverlayEffect.h"
+#include "input/Console.h"
 #include "particles/ParticleManager.h"
-#include "render/GameHUD.h"
-#include "render/OverlayEffect.h"
+#include "ports/IRenderer.h"
 #include "resources/FileSystem.h"
 #include "resources/XmlAttributes.h"
 #include "sound/Sound.h"
@@ -99,6 +100,11 @@ std::optional<int> readId(const std::string& text) {
     return isWhole ? std::optional(id) : std::nullopt;
 }
 
+int gibCount(const GameplaySingleton& play) {
+    const auto* rules = dynamic_cast<const DefaultGameplay*>(play.rules);
+    return rules != nullptr ? rules->gibCount() : 0;
+}
+
 std::string boxText(const Vector& v) {
     return formatFloat(v.x) + ',' + formatFloat(v.y);
 }
@@ -136,7 +142,7 @@ void GameDumps::dumpWorld(const std::string& file) {
     xml::writeBool(root, "levelloaded", game_.levelLoaded_);
     xml::writeString(root, "pendingmap", game_.mapLoadPending_ ? game_.pendingMapName_ : "");
     xml::writeBool(root, "pendingsave", game_.savePending_);
-    xml::writeInt(root, "gibs", play.gameplay != nullptr ? play.gameplay->gibCount() : 0);
+    xml::writeInt(root, "gibs", gibCount(play));
     dumpBodies(game_.world_, root);
     writeParticles(root);
     TiXmlElement& hud = child(root, "Hud");
@@ -161,10 +167,10 @@ void GameDumps::writeParticles(TiXmlElement& root) const {
 }
 
 void GameDumps::writeRace(TiXmlElement& root) const {
-    const DefaultGameplay* play = GameplaySingleton::instance().gameplay;
+    Rules* rules = GameplaySingleton::instance().rules;
     TiXmlElement& race = child(root, "Race");
-    xml::writeBool(race, "active", play != nullptr && play->isRaceActive());
-    xml::writeString(race, "time", formatFloat(play != nullptr ? play->raceTime() : 0));
+    xml::writeBool(race, "active", rules != nullptr && rules->race().isActive());
+    xml::writeString(race, "time", formatFloat(rules != nullptr ? rules->race().time() : 0));
 }
 
 void GameDumps::dumpGui(const std::string& file) {
@@ -219,10 +225,8 @@ void GameDumps::writeInput(TiXmlElement& root) const {
     xml::writeString(e, "previous", game_.input_.getPreviousTarget());
     const InputTarget& cursor = *game_.gameInput_;
     xml::writeString(e, "cursor", boxText({cursor.mouseX, cursor.mouseY}));
-    if (const Player* player = game_.playerBody()) {
-        xml::writeValue(e, "aim", player->aim);
-        xml::writeValue(e, "mouseworld", player->mouseWorldPos);
-    }
+    xml::writeValue(e, "aim", game_.player_->aim);
+    xml::writeValue(e, "mouseworld", game_.player_->mouseWorldPos);
 }
 
 void GameDumps::writeConsole(TiXmlElement& root) const {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/Game.h"
-#include "console/GameVar.h"
+#include "command/GameVar.h"
 
 namespace bc {
 

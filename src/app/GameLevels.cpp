@@ -3,16 +3,16 @@
 // Levels: loading at once and on request, clearing, and what the player meets when one begins.
 #include "app/Game.h"
 #include "app/GameHandles.h"
-#include "console/CommandRegistry.h"
-#include "console/Console.h"
-#include "console/GameInput.h"
-#include "core/FontRenderer.h"
-#include "core/IGameplay.h"
-#include "core/IRenderer.h"
+#include "command/CommandRegistry.h"
 #include "core/Log.h"
-#include "gameplay/Player.h"
+#include "gameplay/player/GameplayInput.h"
+#include "gameplay/player/Player.h"
 #include "gui/GUIManager.h"
+#include "input/Console.h"
 #include "particles/ParticleManager.h"
+#include "ports/FontRenderer.h"
+#include "ports/IGameplay.h"
+#include "ports/IRenderer.h"
 #include "world/BodyFactory.h"
 #include "world/LevelLoader.h"
 
@@ -37,6 +37,7 @@ bool Game::loadMap(const std::string& name, const std::string& spawnName) {
     player_->textureHandle = -1;
     insertPlayer();
     gameInput_->clearActions();
+    control_.reset();
     gameplay_->startLevel(spawnName);
     enterLevel();
     world_.quadtree().setSplittable(false);

@@ -3,8 +3,8 @@
 #include "app/GameLogoScene.h"
 
 #include "app/Game.h"
-#include "core/FontRenderer.h"
-#include "core/IRenderer.h"
+#include "ports/FontRenderer.h"
+#include "ports/IRenderer.h"
 
 namespace bc {
 

@@ -4,18 +4,18 @@
 #include "app/Game.h"
 #include "app/GameDumps.h"
 #include "app/GameHandles.h"
-#include "console/CommandRegistry.h"
-#include "console/Console.h"
-#include "console/GameInput.h"
-#include "core/FontRenderer.h"
-#include "core/IGameplay.h"
-#include "core/IRenderer.h"
+#include "command/CommandRegistry.h"
 #include "core/Log.h"
 #include "core/Ticks.h"
-#include "gameplay/Player.h"
+#include "gameplay/player/GameplayInput.h"
+#include "gameplay/player/Player.h"
 #include "gui/GUIManager.h"
+#include "hud/OverlayEffect.h"
+#include "input/Console.h"
 #include "particles/ParticleManager.h"
-#include "render/OverlayEffect.h"
+#include "ports/FontRenderer.h"
+#include "ports/IGameplay.h"
+#include "ports/IRenderer.h"
 #include "sound/Sound.h"
 
 #include <algorithm>
@@ -108,7 +108,7 @@ void Game::runFrame() {
             if (!loadGame(saveName_)) {
                 saveName_ = lastSaveName_;
                 // Who waits to live again is not left waiting for a save that nobody can read.
-                if (playerBody()->dead)
+                if (player_->dead)
                     requestMapLoad(currentLevel_, "");
             }
             return;
@@ -194,9 +194,11 @@ void Game::updateWorld() {
     particleAccumulator_ += dt;
     if (vars_->frustumcull->intValue() != 0)
         gatherVisible();
-    gameInput_->applyFiring(player_.get());
+    PlayerIntent intent = gameInput_->takeIntent();
+    intent.aimAt = aimedAt_;
+    control_.applyFiring(*player_, intent);
     while (stepAccumulator_ >= simulationStep) {
-        gameInput_->applyMovement(player_.get(), simulationStep);
+        control_.applyMovement(*player_, intent, simulationStep);
         if (gameplay_)
             gameplay_->beforeUpdate();
         if (gameplay_)

@@ -3,19 +3,19 @@
 // Saved games: the record of a running level and its way back into one.
 #include "app/Game.h"
 #include "app/GameHandles.h"
-#include "console/CommandRegistry.h"
-#include "console/GameInput.h"
-#include "core/IGameplay.h"
-#include "core/IRenderer.h"
+#include "command/CommandRegistry.h"
 #include "core/Log.h"
 #include "core/Random.h"
 #include "core/Text.h"
-#include "gameplay/Player.h"
+#include "gameplay/player/GameplayInput.h"
+#include "gameplay/player/Player.h"
 #include "particles/ParticleManager.h"
-#include "render/BaseSky.h"
+#include "ports/IGameplay.h"
+#include "ports/IRenderer.h"
 #include "resources/FileSystem.h"
 #include "resources/ResourceManager.h"
 #include "resources/XmlAttributes.h"
+#include "sky/BaseSky.h"
 #include "world/BodyFactory.h"
 #include "world/LevelLoader.h"
 #include "world/WorldOrder.h"
@@ -134,7 +134,8 @@ bool Game::loadGame(const std::string& name) {
     currentLevel_ = level;
     insertPlayer();
     gameInput_->clearActions();
-    const bool revives = playerBody()->revivePending;
+    control_.reset();
+    const bool revives = player_->revivePending;
     gameplay_->startLevel("");
     if (playerNode != nullptr)
         restorePlayer(*playerNode, revives);
@@ -153,7 +154,7 @@ void Game::restorePlayer(const TiXmlElement& node, bool revives) {
     player_->loadState(node);
     // Who died comes back in full health, however little was left of it when the save was made.
     if (revives)
-        playerBody()->revivePending = true;
+        player_->revivePending = true;
     player_->autoid = World::playerId;
     // Whatever a save says, the craft is there to stay.
     player_->cancleanup = false;

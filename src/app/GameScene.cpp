@@ -3,15 +3,15 @@
 // The scene: camera, aim, sky, bodies, bloom and what lies over them.
 #include "app/Game.h"
 #include "app/GameHandles.h"
-#include "console/InputTarget.h"
-#include "core/FontRenderer.h"
-#include "core/IGameplay.h"
-#include "core/IRenderer.h"
 #include "core/Text.h"
-#include "gameplay/Player.h"
+#include "gameplay/player/Player.h"
+#include "input/GameInput.h"
 #include "particles/ParticleManager.h"
-#include "render/Frustum.h"
-#include "render/Plane.h"
+#include "ports/FontRenderer.h"
+#include "ports/IGameplay.h"
+#include "ports/IRenderer.h"
+#include "view/Frustum.h"
+#include "view/Plane.h"
 
 #include <cmath>
 
@@ -48,10 +48,6 @@ void drawCircle(IRenderer& renderer, const Vector& centre, float radius) {
 
 }  // namespace
 
-Player* Game::playerBody() const {
-    return dynamic_cast<Player*>(player_.get());
-}
-
 float Game::zoom() const {
     if (showingMap_)
         return mapDistance;
@@ -60,9 +56,8 @@ float Game::zoom() const {
 }
 
 Vector Game::cameraTarget() {
-    const Player* player = playerBody();
-    if (player != nullptr && Handles::intOf(vars_->chasecam) == 1)
-        return player->chasePoint;
+    if (Handles::intOf(vars_->chasecam) == 1)
+        return player_->chasePoint;
     return player_->renderpos;
 }
 
@@ -143,9 +138,9 @@ void Game::drawBodies() {
     renderer_->begin2D();
     renderer_->setTexturing(true);
     renderer_->setColour(255, 255, 255, 255);
-    if (const Player* player = playerBody(); player != nullptr && !bloomPass)
-        renderer_->drawSprite("data/images/crosshair1.png", player->cursorPos.x,
-                              static_cast<float>(renderer_->getHeight()) - player->cursorPos.y, 0,
+    if (!bloomPass)
+        renderer_->drawSprite("data/images/crosshair1.png", player_->cursorPos.x,
+                              static_cast<float>(renderer_->getHeight()) - player_->cursorPos.y, 0,
                               32);
     renderer_->end2D();
 }
@@ -173,39 +168,28 @@ void Game::drawDebugInfo(bool bloomPass, int visibleCells, int drawnBodies) {
 }
 
 void Game::updateAim() {
-    Player* player = playerBody();
-    if (player == nullptr)
-        return;
-    const InputTarget* cursor = getGameInput();
+    const GameInput* cursor = getGameInput();
     const Vector from = renderer_->unproject(cursor->mouseX, cursor->mouseY, 0);
     const Vector to = renderer_->unproject(cursor->mouseX, cursor->mouseY, 1);
     Vector hit;
     const Plane plane{{0, 0, 1}, 0};
     if (const auto t = plane.intersect(from, to); t && *t >= 0 && *t <= 1)
         hit = from + (to - from) * *t;
-    player->cursorPos.set(cursor->mouseX, cursor->mouseY);
-    const Vector towards(hit.x - player->renderpos.x, hit.y - player->renderpos.y,
-                         hit.z - player->renderpos.z);
-    // A cursor on the very middle of the craft points nowhere, or wherever rounding has it.
-    constexpr float nearest = 0.25F;  // less than half a pixel
-    if (towards.length() > nearest)
-        player->aim = normalised(towards);
-    player->mouseWorldPos = hit;
+    player_->cursorPos.set(cursor->mouseX, cursor->mouseY);
+    player_->aimAt(hit);
+    aimedAt_ = hit;
 }
 
 void Game::updateChasePoint(float step) {
-    Player* player = playerBody();
-    if (player == nullptr)
-        return;
-    const Vector towards = player->renderpos - player->chasePoint;
+    const Vector towards = player_->renderpos - player_->chasePoint;
     const float d = towards.length();
-    player->atChasePoint = d <= chaseDeadZone;
-    if (player->atChasePoint)
+    player_->atChasePoint = d <= chaseDeadZone;
+    if (player_->atChasePoint)
         return;
     if (d <= chaseLeash)
-        player->chasePoint += normalised(towards) * (d * step);
+        player_->chasePoint += normalised(towards) * (d * step);
     else
-        player->chasePoint = player->renderpos - normalised(towards) * chaseLeash;
+        player_->chasePoint = player_->renderpos - normalised(towards) * chaseLeash;
 }
 
 }  // namespace bc

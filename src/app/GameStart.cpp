@@ -5,24 +5,24 @@
 #include "app/GameDumps.h"
 #include "app/GameHandles.h"
 #include "app/GameLogoScene.h"
-#include "console/CommandRegistry.h"
-#include "console/Console.h"
-#include "console/GameInput.h"
-#include "core/GameResourceBundle.h"
-#include "core/IGameplay.h"
-#include "core/IRenderer.h"
-#include "core/ISound.h"
+#include "command/CommandRegistry.h"
 #include "core/Log.h"
 #include "core/Text.h"
 #include "core/Ticks.h"
-#include "gameplay/DefaultGameplay.h"
-#include "gameplay/GameBodyFactory.h"
-#include "gameplay/Player.h"
+#include "gameplay/player/GameplayInput.h"
+#include "gameplay/player/Player.h"
+#include "gameplay/rules/DefaultGameplay.h"
+#include "gameplay/rules/GameBodyFactory.h"
 #include "gui/GUIManager.h"
+#include "hud/OverlayEffect.h"
+#include "input/Console.h"
 #include "particles/ParticleManager.h"
+#include "ports/GameResourceBundle.h"
+#include "ports/IGameplay.h"
+#include "ports/IRenderer.h"
+#include "ports/ISound.h"
 #include "render/HeadlessRenderer.h"
 #include "render/ImageFontRenderer.h"
-#include "render/OverlayEffect.h"
 #include "render/Renderer.h"
 #include "resources/FileSystem.h"
 #include "resources/ResourceManager.h"
@@ -86,7 +86,7 @@ ISound* Game::getSound() {
 IGUI* Game::getGUIManager() {
     return gui_.get();
 }
-InputTarget* Game::getGameInput() {
+GameInput* Game::getGameInput() {
     return gameInput_.get();
 }
 
@@ -145,15 +145,15 @@ bool Game::initFonts() {
 
 void Game::initGameplay() {
     setGameplay(std::make_unique<DefaultGameplay>());
-    std::unique_ptr<InputTarget> target = gameplay_->createInputTarget();
-    gameInput_.reset(dynamic_cast<GameInput*>(target.release()));
+    gameInput_ = gameplay_->createInputTarget();
     gameInput_->setRenderer(renderer_.get());
     gameInput_->init();
     input_.registerTarget("game", gameInput_.get());
     bodyFactory_ = std::make_unique<BodyFactory>();
     bodyFactory_->registerDefaults();
     bodyFactory_->setFallback(gameplay_->getFactory());
-    player_ = gameplay_->createBody("player");
+    control_.init();
+    player_ = gameplay_->createPlayer();
     player_->autoid = 1;
     player_->makeBox(playerSize, playerSize);
     player_->mass = playerMass;
@@ -217,13 +217,7 @@ void Game::setGameplay(std::unique_ptr<IGameplay> gameplay) {
     bundle->game = this;
     bundle->sound = sound_.get();
     bundle->renderer = renderer_.get();
-    bundle->input = &input_;
-    bundle->gui = gui_.get();
-    bundle->console = console_.get();
     bundle->timer = &frameClock_;
-    bundle->quadtree = &world_.quadtree();
-    bundle->player = player_.get();
-    bundle->bodyFactory = bodyFactory_.get();
     gameplay_->setScreenSize(renderer_->getWidth(), renderer_->getHeight());
     gameplay_->init(std::move(bundle));
 }
@@ -234,6 +228,10 @@ bool Game::deleteGameplay() {
     gameplay_->shutdown();
     gameplay_.reset();
     return false;
+}
+
+Body* Game::getPlayer() {
+    return player_.get();
 }
 
 void Game::setPlayer(Body* player) {

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 // The video mode: which one is in force, and who is told.
 #include "app/Game.h"
-#include "console/Console.h"
-#include "console/GameVar.h"
-#include "core/FontRenderer.h"
-#include "core/IGameplay.h"
-#include "core/IRenderer.h"
+#include "command/GameVar.h"
 #include "core/Log.h"
 #include "gui/GUIManager.h"
+#include "input/Console.h"
 #include "particles/ParticleManager.h"
+#include "ports/FontRenderer.h"
+#include "ports/IGameplay.h"
+#include "ports/IRenderer.h"
 
 #include <SDL/SDL.h>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "render/SkyServices.h"
+#include "sky/SkyServices.h"
 
 namespace bc {
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "gui/GUIManager.h"
 
-#include "console/InputManager.h"
-#include "core/FontRenderer.h"
-#include "core/IRenderer.h"
 #include "core/Text.h"
+#include "input/InputManager.h"
+#include "ports/FontRenderer.h"
+#include "ports/IRenderer.h"
 #include "resources/XmlAttributes.h"
 
 #include <tinyxml.h>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "console/InputTarget.h"
-#include "core/IGUI.h"
+#include "input/InputTarget.h"
+#include "ports/IGUI.h"
 
 #include <string>
 

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "particles/ParticleManager.h"
 
-#include "core/IRenderer.h"
 #include "core/Log.h"
 #include "particles/BeamParticleSystems.h"
 #include "particles/LightningParticleSystem.h"
 #include "particles/PlasmaParticleSystem.h"
 #include "particles/TextParticleSystem.h"
-#include "render/Frustum.h"
+#include "ports/IRenderer.h"
 #include "resources/ResourceManager.h"
+#include "view/Frustum.h"
 
 #include <tinyxml.h>
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "particles/ParticleSystem.h"
 
-#include "core/IRenderer.h"
 #include "core/Random.h"
 #include "particles/ParticleSystemObserver.h"
-#include "render/Frustum.h"
+#include "ports/IRenderer.h"
+#include "view/Frustum.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/IRenderer.h"
 #include "core/RGBAColour.h"
 #include "core/Vector.h"
+#include "ports/IRenderer.h"
 
 #include <cstddef>
 #include <vector>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "particles/TextParticleSystem.h"
 
-#include "core/FontRenderer.h"
-#include "core/IRenderer.h"
+#include "ports/FontRenderer.h"
+#include "ports/IRenderer.h"
 
 namespace bc {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/GlDevice.h"
 
-#include "render/Matrix4.h"
+#include "view/Matrix4.h"
 
 #include <GL/gl.h>
 #include <GL/glu.h>

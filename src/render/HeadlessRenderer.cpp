@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/HeadlessRenderer.h"
 
-#include "core/FontRenderer.h"
+#include "ports/FontRenderer.h"
 #include "render/DevilImage.h"
 
 namespace bc {

@@ -3,8 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <string>
 #include <vector>
 
 namespace bc {
@@ -18,9 +16,5 @@ struct Image {
     /// Rows from the bottom up, without gaps.
     std::vector<std::uint8_t> pixels;
 };
-
-/// Reads an image file of the user or the data folder. Nothing when it is missing, damaged, too
-/// large or not a colour image of 24 or 32 bits.
-[[nodiscard]] std::optional<Image> loadImage(const std::string& name);
 
 }  // namespace bc

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "render/ImageFontRenderer.h"
 
-#include "core/IRenderer.h"
 #include "core/Log.h"
 #include "core/Text.h"
+#include "ports/IRenderer.h"
 
 #include <algorithm>
 #include <array>

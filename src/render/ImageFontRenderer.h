@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/FontRenderer.h"
+#include "ports/FontRenderer.h"
 #include "render/Font.h"
 
 #include <map>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/Pictures.h"
 
-#include "console/CommandRegistry.h"
+#include "command/CommandRegistry.h"
 #include "core/Log.h"
 #include "render/DevilImage.h"
 #include "render/Image.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/IRenderer.h"
+#include "ports/IRenderer.h"
 #include "render/Image.h"
 #include "render/TextureManager.h"
 

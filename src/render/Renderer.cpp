@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "render/Renderer.h"
 
-#include "core/FontRenderer.h"
 #include "core/Log.h"
 #include "core/Ticks.h"
+#include "ports/FontRenderer.h"
 #include "render/DevilImage.h"
 #include "render/RefreshRate.h"
 

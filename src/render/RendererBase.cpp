@@ -3,10 +3,10 @@
 // The books: frame, views, camera, overlay mode, state.
 #include "render/RendererBase.h"
 
-#include "console/GameVar.h"
-#include "core/FontRenderer.h"
+#include "command/GameVar.h"
 #include "core/Log.h"
 #include "core/Ticks.h"
+#include "ports/FontRenderer.h"
 
 #include <algorithm>
 #include <array>

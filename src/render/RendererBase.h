@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/IRenderer.h"
+#include "ports/IRenderer.h"
 #include "render/FrameClock.h"
 #include "render/FrameRecorder.h"
-#include "render/Frustum.h"
-#include "render/MatrixStack.h"
 #include "render/Pictures.h"
 #include "render/RenderDevice.h"
+#include "view/Frustum.h"
+#include "view/MatrixStack.h"
 
 #include <cstdint>
 #include <memory>

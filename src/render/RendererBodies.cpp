@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // Whole bodies: polygon, outline, glow, label.
-#include "core/Drawable.h"
-#include "core/FontRenderer.h"
+#include "ports/Drawable.h"
+#include "ports/FontRenderer.h"
 #include "render/RendererBase.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // Textures, bloom, fonts and pictures of the window.
-#include "core/FontRenderer.h"
+#include "ports/FontRenderer.h"
 #include "render/RendererBase.h"
 
 #include <ostream>

@@ -3,7 +3,7 @@
 #include "render/TextureManager.h"
 
 #include "core/Log.h"
-#include "render/Image.h"
+#include "render/ImageFile.h"
 
 #include <cstddef>
 #include <iterator>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sound/Playlist.h"
 
-#include "console/CommandRegistry.h"
+#include "command/CommandRegistry.h"
 #include "core/Log.h"
 #include "core/Random.h"
 #include "core/Text.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/IPlaylist.h"
+#include "ports/IPlaylist.h"
 
 #include <cstddef>
 #include <memory>

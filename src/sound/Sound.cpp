@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "sound/Sound.h"
 
-#include "console/CommandRegistry.h"
-#include "console/GameVar.h"
+#include "command/CommandRegistry.h"
+#include "command/GameVar.h"
 #include "core/Log.h"
 #include "resources/FileSystem.h"
 #include "resources/ResourceManager.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/ISound.h"
+#include "ports/ISound.h"
 #include "sound/Mixer.h"
 #include "sound/Playlist.h"
 

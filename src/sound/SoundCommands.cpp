@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // The console commands of Sound.
-#include "console/CommandRegistry.h"
+#include "command/CommandRegistry.h"
 #include "core/Text.h"
 #include "sound/Sound.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // The play requests of Sound.
-#include "console/GameVar.h"
+#include "command/GameVar.h"
 #include "core/Log.h"
 #include "core/Text.h"
 #include "sound/Sound.h"

@@ -3,14 +3,12 @@
 #include "world/Body.h"
 
 #include "particles/ParticleSystem.h"
+#include "world/BodyIndex.h"
 #include "world/BodyParticleSystemObserver.h"
-#include "world/BodyStep.h"
 #include "world/CollisionShape.h"
-#include "world/QuadTree.h"
+#include "world/Simd.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace bc {
 
@@ -20,8 +18,8 @@ Body::Body() : shape_(CollisionShape::of({})) {
 
 Body::~Body() {
     detachAllParticleSystems();
-    if (tree_ != nullptr)
-        tree_->remove(*this);
+    if (index_ != nullptr)
+        index_->remove(*this);
 }
 
 std::unique_ptr<Body> Body::create() const {
@@ -35,41 +33,8 @@ void Body::setPosition(const Vector& v) {
     projectedpos = v;
 }
 
-void Body::limitSpeed() {
-    float speed = vel.length();
-    if (!(speed <= std::numeric_limits<float>::max())) {
-        // The square overflows: bring it into range first; what is no number at all is dropped.
-        if (!simd::within(simd::load(vel), std::numeric_limits<float>::max())) {
-            vel = Vector();
-            return;
-        }
-        vel *= 1e-30F;
-        speed = maxSpeed + 1;
-    }
-    if (speed <= maxSpeed)
-        return;
-    vel.normalise();
-    vel *= maxSpeed;
-}
-
-void Body::applyForce(const Vector& force, float scale) {
-    BodyStep::applyForce(*this, force, scale);
-}
-
-void Body::addVelocity(const Vector& v) {
-    if (isMassive())
-        BodyStep::gainVelocity(*this, v);
-}
-
-void Body::stop() {
-    vel = frozenvel = constantvelocity = Vector();
-    if (!simd::within(simd::load(pos), maxCoordinate))
-        pos = oldpos = Vector();
-}
-
-void Body::move(float dt) {
-    if (BodyStep::move(*this, dt) && tree_ != nullptr)
-        tree_->boundsChanged(*this);
+int Body::indexDepth() const {
+    return index_ != nullptr ? index_->depthOf(*this) : -1;
 }
 
 void Body::touch(Body& other, Body& self, const Vector& normal, float t, const Vector& point) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/Drawable.h"
+#include "ports/Drawable.h"
 #include "world/BRect.h"
 #include "world/TouchInfo.h"
 
@@ -16,10 +16,10 @@ class TiXmlElement;
 
 namespace bc {
 
+class BodyIndex;
 class BodyParticleSystemObserver;
 class CollisionShape;
 class ParticleSystem;
-class QuadTree;
 struct BodyStep;
 
 /// Everything that is in a level derives from it: geometry, doors, pickups, enemies, projectiles,
@@ -149,6 +149,11 @@ class alignas(64) Body : public Drawable {
 
     /// Number of its entry in the spatial index it is in.
     [[nodiscard]] std::uint32_t indexEntry() const { return entry_; }
+    /// Depth of the index node that stores it (the root has 0), -1 when it is in no index.
+    [[nodiscard]] int indexDepth() const;
+
+    /// Whether a save holds it; what it does not hold is gone in a continued run.
+    [[nodiscard]] virtual bool keptInSaves() const { return entity; }
 
     // Text forms.
     void setTexture(const std::string& name);
@@ -213,7 +218,7 @@ class alignas(64) Body : public Drawable {
 
   private:
     /// The spatial index it is in, if any.
-    QuadTree* tree_ = nullptr;
+    BodyIndex* index_ = nullptr;
 
     alignas(64) std::shared_ptr<const CollisionShape> shape_;
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 // A body's polygon, the places of its corners and its bounds.
 #include "world/Body.h"
+#include "world/BodyIndex.h"
 #include "world/BodyStep.h"
 #include "world/CollisionShape.h"
-#include "world/QuadTree.h"
 
 #include <algorithm>
 #include <cmath>
@@ -108,8 +108,8 @@ void Body::updateGeometry() {
     turnBox();
     geometry_ = pos;
     cornersStale_ = true;
-    if (tree_ != nullptr)
-        tree_->geometryChanged(*this);
+    if (index_ != nullptr)
+        index_->geometryChanged(*this);
 }
 
 const std::vector<Vector>& Body::worldVertices() const {
@@ -193,14 +193,14 @@ void Body::computeBounds() {
     bounds.sweptBottom = bounds.bottom;
     compareBox();
     updateSweptBounds(0);
-    if (tree_ != nullptr)
-        tree_->geometryChanged(*this);
+    if (index_ != nullptr)
+        index_->geometryChanged(*this);
 }
 
 void Body::updateSweptBounds(float dt) {
     BodyStep::sweepBounds(*this, dt);
-    if (tree_ != nullptr)
-        tree_->boundsChanged(*this);
+    if (index_ != nullptr)
+        index_->boundsChanged(*this);
 }
 
 bool Body::overlaps(const Body& other) const {

@@ -5,7 +5,6 @@
 #include "core/Text.h"
 #include "resources/XmlAttributes.h"
 #include "world/Body.h"
-#include "world/QuadTree.h"
 #include "world/Simd.h"
 
 #include <tinyxml.h>
@@ -128,7 +127,7 @@ void Body::dumpState(TiXmlElement& debug) const {
         resolved +=
             (resolved.empty() ? "" : ",") + std::to_string(target->autoid) + ':' + target->id;
     xml::writeString(debug, "resolvedtargets", resolved);
-    xml::writeInt(debug, "nodedepth", QuadTree::depthOf(*this));
+    xml::writeInt(debug, "nodedepth", indexDepth());
 }
 
 }  // namespace bc

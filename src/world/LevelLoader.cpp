@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "world/LevelLoader.h"
 
-#include "console/CommandRegistry.h"
-#include "console/GameVar.h"
+#include "command/CommandRegistry.h"
+#include "command/GameVar.h"
 #include "core/Log.h"
 #include "core/Text.h"
 #include "resources/ResourceManager.h"
@@ -202,7 +202,7 @@ bool loadLevel(World& world, BodyCreator& factory, std::string_view name) {
 void saveEntities(const World& world, TiXmlElement& root) {
     TiXmlElement* objects = root.LinkEndChild(new TiXmlElement("Objects"))->ToElement();
     for (const Body* body : world.allBodies())
-        if (body->entity && body->type != "player" && body->type != "grappleprojectile") {
+        if (body->keptInSaves()) {
             TiXmlElement* p = levelformat::writeBody(*body, *objects);
             levelformat::writeShape(*body, *p->FirstChildElement("custom"));
         }

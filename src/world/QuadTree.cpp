@@ -4,7 +4,7 @@
 #include "world/QuadTree.h"
 
 #include "world/Body.h"
-#include "world/QuadTreeNode.h"
+#include "world/QuadTreeStore.h"
 
 #include <algorithm>
 #include <bit>
@@ -100,7 +100,7 @@ void QuadTree::clear() {
     for (std::size_t i = 0; i < nodes.size(); ++i) {
         const QuadTreeNode& node = *nodes[i];
         for (std::uint32_t s = 0; s < node.count; ++s)
-            store_->entries[node.slots[s]].body->tree_ = nullptr;
+            store_->entries[node.slots[s]].body->index_ = nullptr;
         for (int q = 0; q < 4 && node.quarters != nullptr; ++q)
             nodes.push_back(node.quarters + q);
     }
@@ -145,11 +145,11 @@ bool QuadTree::hasRoomFor(const Body& body, const QuadTreeNode& node, std::uint3
 }
 
 bool QuadTree::insert(Body& body) {
-    if (body.tree_ != nullptr)
-        body.tree_->remove(body);
+    if (body.index_ != nullptr)
+        body.index_->remove(body);
     if (!contains(body))
         return false;
-    body.tree_ = this;
+    body.index_ = this;
     body.entry_ = store_->entries.add(body);
     store_->grid.add(body.entry_, body.bounds);
     insertAt(*root_, body);
@@ -205,16 +205,16 @@ void QuadTree::takeOut(std::uint32_t at) {
 }
 
 void QuadTree::remove(Body& body) {
-    if (body.tree_ != this)
+    if (body.index_ != this)
         return;
     store_->grid.remove(body.entry_);
     takeOut(body.entry_);
     store_->entries.remove(body.entry_);
-    body.tree_ = nullptr;
+    body.index_ = nullptr;
 }
 
 bool QuadTree::reinsert(Body& body) {
-    if (body.tree_ != this)
+    if (body.index_ != this)
         return insert(body);
     const Box box = body.worldBox();
     IndexEntry& entry = store_->entries[body.entry_];
@@ -268,8 +268,8 @@ void QuadTree::geometryChanged(const Body& body) {
     store_->entries[body.entry_].node->restStale = true;
 }
 
-int QuadTree::depthOf(const Body& body) {
-    return body.tree_ != nullptr ? body.tree_->store_->entries[body.entry_].node->depth : -1;
+int QuadTree::depthOf(const Body& body) const {
+    return store_->entries[body.entry_].node->depth;
 }
 
 }  // namespace bc

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Vector.h"
+#include "world/BodyIndex.h"
 #include "world/Trace.h"
 
 #include <cstdint>
@@ -27,7 +28,7 @@ struct QuadTreeNode;
 /// Results come in a fixed order that play depends on: a node before its quarters, the quarters in
 /// their order (upper left, upper right, lower left, lower right), in a node the bodies in the
 /// order in which they came in, where a body that is re-inserted comes in anew.
-class QuadTree {
+class QuadTree final : public BodyIndex {
   public:
     /// A leaf holds this many; the next one splits it, unless it is an entity.
     static constexpr int leafCapacity = 20;
@@ -38,7 +39,7 @@ class QuadTree {
     static constexpr int maxInitialDepth = 6;
 
     QuadTree();
-    ~QuadTree();
+    ~QuadTree() override;
     QuadTree(const QuadTree&) = delete;
     QuadTree& operator=(const QuadTree&) = delete;
 
@@ -60,7 +61,7 @@ class QuadTree {
     /// False when the body's polygon is not wholly inside the square; it is then in no node.
     bool insert(Body& body);
     /// Nothing happens when it is not in the tree.
-    void remove(Body& body);
+    void remove(Body& body) override;
     /// After a move: takes it out and inserts it again, at the end of its node's list.
     bool reinsert(Body& body);
     /// Every corner inside the square or on its border; a body without corners is contained.
@@ -105,17 +106,11 @@ class QuadTree {
     /// Visits every node, in search order. Not for hot paths.
     void forEachNode(const std::function<void(const NodeView&)>& visit) const;
     [[nodiscard]] int nodeCount() const;
-    /// Depth of the node the body is stored in (the root has 0), -1 when it is in none.
-    [[nodiscard]] static int depthOf(const Body& body);
+    void boundsChanged(const Body& body) override;
+    void geometryChanged(const Body& body) override;
+    [[nodiscard]] int depthOf(const Body& body) const override;
 
   private:
-    friend class Body;
-
-    /// The body's bounds changed.
-    void boundsChanged(const Body& body);
-    /// The body's polygon changed or moved.
-    void geometryChanged(const Body& body);
-
     void insertAt(QuadTreeNode& node, Body& body);
     void store(QuadTreeNode& node, std::uint32_t entry);
     void takeOut(std::uint32_t entry);

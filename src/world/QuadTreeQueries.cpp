@@ -3,7 +3,7 @@
 // What the tree is asked: candidates, circles and traces.
 #include "world/Body.h"
 #include "world/QuadTree.h"
-#include "world/QuadTreeNode.h"
+#include "world/QuadTreeStore.h"
 #include "world/Simd.h"
 
 #include <algorithm>

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // What the tree shows: the bodies in view, its own outlines, its text form.
-#include "core/IRenderer.h"
 #include "core/Text.h"
 #include "core/Vertex.h"
-#include "render/Frustum.h"
+#include "ports/IRenderer.h"
+#include "view/Frustum.h"
 #include "world/Body.h"
 #include "world/QuadTree.h"
-#include "world/QuadTreeNode.h"
+#include "world/QuadTreeStore.h"
 
 #include <ostream>
 

@@ -3,8 +3,8 @@
 // The lists of the world: how bodies come and go.
 #include "world/World.h"
 
-#include "console/GameVar.h"
-#include "render/Frustum.h"
+#include "command/GameVar.h"
+#include "view/Frustum.h"
 
 #include <algorithm>
 #include <functional>

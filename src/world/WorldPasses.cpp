@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // The passes of a simulation step.
-#include "console/GameVar.h"
+#include "command/GameVar.h"
 #include "world/BodyStep.h"
 #include "world/Collision.h"
-#include "world/QuadTreeNode.h"
+#include "world/QuadTreeStore.h"
 #include "world/World.h"
 
 namespace bc {

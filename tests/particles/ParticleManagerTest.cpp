@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "particles/ParticleManager.h"
 #include "particles/ParticleSystemObserver.h"
-#include "render/Frustum.h"
 #include "resources/FileSystem.h"
 #include "support/AllocationCounter.h"
 #include "support/RecordingRenderer.h"
+#include "view/Frustum.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

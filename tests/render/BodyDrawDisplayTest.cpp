@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // Bodies, their textures, outlines and glow, and the bloom over all.
-#include "RendererFixture.h"
-
-#include "core/Drawable.h"
+#include "ports/Drawable.h"
 #include "render/Renderer.h"
+#include "support/RendererFixture.h"
 
 #include <string>
 #include <utility>

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "../console/ConsoleFixture.h"
-#include "core/Drawable.h"
 #include "core/Ticks.h"
+#include "ports/Drawable.h"
 #include "render/HeadlessRenderer.h"
+#include "render/ImageFile.h"
+#include "support/ConsoleFixture.h"
 #include "support/TestImages.h"
 
 #include <sstream>

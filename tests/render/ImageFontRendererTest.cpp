@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "../resources/TestFolders.h"
-#include "render/Image.h"
+#include "render/ImageFile.h"
 #include "render/ImageFontRenderer.h"
 #include "support/RecordingRenderer.h"
+#include "support/TestFolders.h"
 #include "support/TestFont.h"
 #include "support/TestImages.h"
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "RendererFixture.h"
-
-#include "core/Drawable.h"
 #include "core/Quad.h"
 #include "core/Vertex.h"
+#include "ports/Drawable.h"
+#include "render/ImageFile.h"
 #include "render/Renderer.h"
+#include "support/RendererFixture.h"
 
 #include <string>
 #include <utility>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "core/Drawable.h"
+#include "ports/Drawable.h"
 #include "render/HeadlessRenderer.h"
 #include "render/ImageFontRenderer.h"
 #include "support/AllocationCounter.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "../resources/TestFolders.h"
 #include "render/Image.h"
 #include "render/TextureManager.h"
+#include "support/TestFolders.h"
 #include "support/TestImages.h"
 
 #include <set>

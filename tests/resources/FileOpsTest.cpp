@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "TestFolders.h"
-
 #include "resources/FileFinder.h"
 #include "resources/FileOps.h"
+#include "support/TestFolders.h"
 
 #include <gmock/gmock.h>
 

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "TestFolders.h"
-
 #include "resources/FileSystem.h"
+#include "support/TestFolders.h"
 
 #include <gmock/gmock.h>
 

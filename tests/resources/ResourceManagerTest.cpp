@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "TestFolders.h"
 #include "ZipBuilder.h"
 
 #include "resources/ResourceManager.h"
 #include "resources/XmlAttributes.h"
 #include "resources/ZipFile.h"
+#include "support/TestFolders.h"
 
 #include <gmock/gmock.h>
 #include <tinyxml.h>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "../console/ConsoleFixture.h"
 #include "core/Ticks.h"
 #include "sound/Sound.h"
+#include "support/ConsoleFixture.h"
 
 #include <tinyxml.h>
 

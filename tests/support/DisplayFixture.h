@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "../resources/TestFolders.h"
-#include "console/GameVar.h"
+#include "command/GameVar.h"
 #include "core/Ticks.h"
 #include "render/Renderer.h"
+#include "support/TestFolders.h"
 #include "support/TestImages.h"
 
 #include <SDL/SDL.h>

@@ -2,24 +2,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "../resources/TestFolders.h"
-#include "console/CommandRegistry.h"
-#include "console/ConsoleOutput.h"
-#include "console/GameVar.h"
+#include "command/CommandRegistry.h"
+#include "command/ConsoleOutput.h"
+#include "command/GameVar.h"
 #include "core/BasicTimer.h"
-#include "core/GameResourceBundle.h"
-#include "core/IGame.h"
 #include "core/Random.h"
 #include "core/Ticks.h"
-#include "gameplay/DefaultGameplay.h"
-#include "gameplay/GameCategories.h"
-#include "gameplay/GameplayInput.h"
-#include "gameplay/GameplaySingleton.h"
-#include "gameplay/Player.h"
-#include "gameplay/Spawning.h"
+#include "gameplay/actors/GameCategories.h"
+#include "gameplay/actors/GameplaySingleton.h"
+#include "gameplay/actors/Spawning.h"
+#include "gameplay/player/GameplayInput.h"
+#include "gameplay/player/Player.h"
+#include "gameplay/player/PlayerControl.h"
+#include "gameplay/rules/DefaultGameplay.h"
+#include "hud/OverlayEffect.h"
 #include "particles/ParticleManager.h"
-#include "render/OverlayEffect.h"
+#include "ports/GameResourceBundle.h"
+#include "ports/IGame.h"
 #include "support/FakeSound.h"
+#include "support/TestFolders.h"
 #include "world/World.h"
 
 #include <initializer_list>
@@ -55,7 +56,7 @@ class FakePlayGame final : public IGame {
     InputManager* getInputManager() override { return nullptr; }
     IGUI* getGUIManager() override { return nullptr; }
     Console* getConsole() override { return nullptr; }
-    InputTarget* getGameInput() override { return nullptr; }
+    GameInput* getGameInput() override { return nullptr; }
     BasicTimer* getTimer() override { return &timer; }
     SkyManager* getSkyManager() override { return sky; }
     Body* getPlayer() override { return player; }
@@ -125,14 +126,14 @@ class PlayFixture : public TestFolders {
         bundle->game = &game;
         bundle->sound = &game.sound;
         bundle->timer = &game.timer;
-        bundle->quadtree = &game.world.quadtree();
         game.gameplay = gameplay.get();
         gameplay->setScreenSize(1024, 768);
         logOf([&] { gameplay->init(std::move(bundle)); });
         input.init();
+        control.init();
         input.clearActions();
-        playerBody_ = gameplay->createBody("player");
-        player = static_cast<Player*>(playerBody_.get());
+        player_ = gameplay->createPlayer();
+        player = player_.get();
         player->autoid = World::playerId;
         player->makeBox(16, 16);
         player->computeBounds();
@@ -144,7 +145,7 @@ class PlayFixture : public TestFolders {
     ~PlayFixture() override {
         game.world.clear();
         game.world.setPlayer(nullptr);
-        playerBody_.reset();
+        player_.reset();
         logOf([this] { gameplay->shutdown(); });
         gameplay.reset();
         particleManager().clear();
@@ -161,6 +162,7 @@ class PlayFixture : public TestFolders {
         world.addBody(player, false);
         world.activateBody(player);
         input.clearActions();
+        control.reset();
         game.timer.restart();
         gameplay->startLevel(spawn);
     }
@@ -177,8 +179,13 @@ class PlayFixture : public TestFolders {
         for (int i = 0; i < count; ++i) {
             advanceVirtualTicks(stepMs);
             game.timer.tick();
-            input.applyFiring(player);
-            input.applyMovement(player, dt);
+            PlayerIntent intent = input.takeIntent();
+            // Tests set the aim and the cursor's place in the world themselves.
+            intent.aimAt = player->renderpos;
+            const Vector cursor = player->mouseWorldPos;
+            control.applyFiring(*player, intent);
+            player->mouseWorldPos = cursor;
+            control.applyMovement(*player, intent, dt);
             gameplay->update(dt);
             game.world.simulate(dt, gravity);
             game.world.interpolate(1);
@@ -237,11 +244,12 @@ class PlayFixture : public TestFolders {
     ConsoleLines console;
     std::unique_ptr<DefaultGameplay> gameplay;
     GameplayInput input;
+    PlayerControl control;
     Player* player = nullptr;
     float gravity = 0;
 
   private:
-    std::unique_ptr<Body> playerBody_;
+    std::unique_ptr<Player> player_;
 };
 
 }  // namespace bc::test

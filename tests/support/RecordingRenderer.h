@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/FontRenderer.h"
-#include "core/IRenderer.h"
 #include "core/Quad.h"
+#include "ports/FontRenderer.h"
+#include "ports/IRenderer.h"
 // Tests of the floors below the renderer's have no frustum and never ask for one.
-#if __has_include("render/Frustum.h")
-#include "render/Frustum.h"
+#if __has_include("view/Frustum.h")
+#include "view/Frustum.h"
 #else
 namespace bc {
 class Frustum {};

@@ -3,7 +3,7 @@
 // A body by itself: its polygon, its bounds, its text forms and what is attached to it.
 #include "core/Random.h"
 #include "particles/ParticleManager.h"
-#include "render/Frustum.h"
+#include "view/Frustum.h"
 #include "world/Body.h"
 
 #include <gtest/gtest.h>

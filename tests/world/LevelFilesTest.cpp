@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // Levels and saved bodies read, placed and written.
-#include "../resources/TestFolders.h"
+#include "support/TestFolders.h"
 #include "world/BodyFactory.h"
 #include "world/LevelFormat.h"
 #include "world/LevelLoader.h"

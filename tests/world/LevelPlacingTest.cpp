@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // What happens when read bodies are placed, saved and dumped, and what it tells.
-#include "../console/ConsoleFixture.h"
+#include "support/ConsoleFixture.h"
 #include "world/BodyFactory.h"
 #include "world/LevelLoader.h"
 #include "world/World.h"
@@ -30,6 +30,7 @@ class Hooked final : public Body {
     [[nodiscard]] std::unique_ptr<Body> create() const override {
         return std::make_unique<Hooked>();
     }
+    [[nodiscard]] bool keptInSaves() const override { return entity && id != "craft"; }
     void onBeforeTargets() override { note("before"); }
     void onLoaded() override { note("loaded"); }
     void onRestored() override { note("restored"); }
@@ -122,14 +123,13 @@ TEST_F(LevelPlacingTest, AnIndexCoversTheLevelWithAMargin) {
 
 TEST_F(LevelPlacingTest, ASaveTakesEntitiesFromItselfAndTheRestFromTheLevel) {
     level(object("default", "wall", "") + object("hooked", "enemy", "entity='true'") +
-          object("default", "craft", "entity='true'"));
+          object("hooked", "craft", "entity='true'"));
     logOf([&] { loadLevel(world, game, "sub/l"); });
     Body& enemy = *world.allBodies()[1];
     enemy.autoid = 40;
     enemy.setPosition(Vector(500, 60));
     enemy.updateGeometry();
     enemy.vel.set(7, 8);
-    world.allBodies()[2]->type = "player";
     TiXmlElement save("save");
     saveEntities(world, save);
     world.clear();

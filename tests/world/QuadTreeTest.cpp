@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // How the spatial index stores bodies, and what it finds along rays, in circles and in view.
-#include "../support/RecordingRenderer.h"
 #include "core/Random.h"
-#include "render/Frustum.h"
+#include "support/RecordingRenderer.h"
+#include "view/Frustum.h"
 #include "world/QuadTree.h"
 #include "world/World.h"
 
@@ -148,21 +148,21 @@ TEST(QuadTreeRules, ABodyKnowsOneTreeAndLeavesItWhenItGoes) {
         body.computeBounds();
         second.remove(body);
         ASSERT_TRUE(first.insert(body));
-        EXPECT_EQ(QuadTree::depthOf(body), 0) << "across the middle";
+        EXPECT_EQ(body.indexDepth(), 0) << "across the middle";
         second.init(Vector(), 1000, 2);
         ASSERT_TRUE(second.reinsert(body));
         first.queryRadius(Vector(), 10, found);
         EXPECT_TRUE(found.empty());
         moveTo(100, 100);
         ASSERT_TRUE(second.reinsert(body));
-        EXPECT_EQ(QuadTree::depthOf(body), 2);
+        EXPECT_EQ(body.indexDepth(), 2);
         moveTo(2000, 0);
         EXPECT_FALSE(second.reinsert(body));
-        EXPECT_EQ(QuadTree::depthOf(body), -1);
+        EXPECT_EQ(body.indexDepth(), -1);
         moveTo(10, 10);
         EXPECT_TRUE(second.reinsert(body)) << "it may come back";
         second.clear();
-        EXPECT_EQ(QuadTree::depthOf(body), -1);
+        EXPECT_EQ(body.indexDepth(), -1);
         second.init(Vector(), 1000, 0);
         second.insert(body);
     }
@@ -216,7 +216,7 @@ TEST(QuadTreeRules, TracesMissNothing) {
             double t = 0;
             const auto hit = std::find_if(results.begin(), results.end(),
                                           [&](const TraceResult& r) { return r.body == body; });
-            const bool expected = QuadTree::depthOf(*body) >= 0 && crossesPlainly(ray, *body, t);
+            const bool expected = body->indexDepth() >= 0 && crossesPlainly(ray, *body, t);
             ASSERT_EQ(hit != results.end(), expected) << "ray " << i;
             if (expected) {
                 ++hits;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // A world that has run for a while asks for no more memory.
-#include "../support/AllocationCounter.h"
 #include "core/Random.h"
+#include "support/AllocationCounter.h"
 #include "world/World.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 // How bodies come into the world and leave it, also while it is being walked.
-#include "console/GameVar.h"
+#include "command/GameVar.h"
 #include "core/Random.h"
-#include "render/Frustum.h"
+#include "view/Frustum.h"
 #include "world/World.h"
 
 #include <gtest/gtest.h>
@@ -149,7 +149,7 @@ TEST_F(WorldTest, ClearingKeepsThePlayerAndNothingElse) {
     EXPECT_EQ(living, std::set<int>{1});
     EXPECT_TRUE(world.allBodies().empty() && world.activeBodies().empty());
     EXPECT_EQ(world.nextBodyId(), World::firstBodyId);
-    EXPECT_EQ(QuadTree::depthOf(*player), -1);
+    EXPECT_EQ(player->indexDepth(), -1);
     world.simulate(dt, -100);
     world.setPlayer(nullptr);
 }

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#include "gameplay/objects/triggers/Checkpoint.h"
+
+#include "gameplay/actors/Effects.h"
+#include "gameplay/actors/GameplaySingleton.h"
+#include "ports/IGame.h"
+#include "world/TouchInfo.h"
+
+namespace bc {
+
+namespace {
+
+constexpr int topCentre = 1;
+
+}  // namespace
+
+Checkpoint::Checkpoint() {
+    type = "checkpoint";
+}
+
+std::unique_ptr<Body> Checkpoint::create() const {
+    return std::make_unique<Checkpoint>();
+}
+
+void Checkpoint::onTouch(const TouchInfo& info) {
+    if (!isReadyFor(info))
+        return;
+    arm();
+    record(info.other->pos);
+}
+
+void Checkpoint::onTriggered(GameBody* /*activator*/) {
+    record(pos);
+}
+
+void Checkpoint::record(const Vector& position) {
+    spawnText(position, "Checkpoint", 12, true, 0.75F, "vera");
+    showAnchoredMessage("Saving Checkpoint...", topCentre);
+    if (IGame* game = GameplaySingleton::instance().game())
+        game->requestSave();
+}
+
+}  // namespace bc

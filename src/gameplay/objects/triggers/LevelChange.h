@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: The Brightclash developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "gameplay/actors/GameBody.h"
+
+namespace bc {
+
+/// The way out of a level: to another one, or to a cutscene (type "levelchange").
+class LevelChange final : public GameBody {
+  public:
+    LevelChange();
+
+    [[nodiscard]] std::unique_ptr<Body> create() const override;
+    void onLoaded() override;
+    void onTouch(const TouchInfo& info) override;
+    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
+
+    /// Map names; ".xml" is part of them.
+    std::string levelTarget;
+    std::string demoLevelTarget;
+    /// Id of the spawn point to arrive at; empty for the start.
+    std::string targetSpawn;
+    bool isCutscene = false;
+    std::string cutscene;
+
+  private:
+    /// Level time (ms) from which a failed change is tried again.
+    float nextTry_ = 0;
+};
+
+}  // namespace bc
