@@ -65,11 +65,9 @@ function(brightclash_test name)
     set(ARG_TIMEOUT 300)
   endif()
   add_executable(${name} ${ARG_SOURCES} ${ARG_HELPERS})
-  target_link_libraries(${name} PRIVATE brightclash_options ${ARG_LIBS} GTest::gmock_main)
-  # What tests share: "support/RecordingRenderer.h" and the like.
+  target_link_libraries(${name} PRIVATE brightclash_options ${ARG_LIBS} brightclash_test_support
+    GTest::gmock_main)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_compile_definitions(${name} PRIVATE
-    BRIGHTCLASH_GAME_DIR="${BRIGHTCLASH_GAME_DIR}" BRIGHTCLASH_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   if(ARG_DISPLAY)
     add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/with_display $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}

@@ -3,6 +3,8 @@
 // Whole runs of the program without a window, looked at through what it leaves behind.
 #include "RunGame.h"
 
+#include "support/Places.h"
+
 #include <gtest/gtest.h>
 #include <tinyxml.h>
 
@@ -77,8 +79,7 @@ TEST(Program, EveryLevelThatShipsIsWhole) {
                                 "Defaulting",   "Refused", "no initialised value", "Too many",
                                 "t been loaded"};
     int levels = 0;
-    for (const auto& file :
-         std::filesystem::directory_iterator(std::string(BRIGHTCLASH_GAME_DIR) + "/maps")) {
+    for (const auto& file : std::filesystem::directory_iterator(test::gamePath("") + "maps")) {
         const std::string level = file.path().stem().string();
         RunGame game;
         EXPECT_EQ(game.headless({"--frames", "200", "+map", level}), 0) << level;

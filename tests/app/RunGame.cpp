@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "RunGame.h"
 
+#include "support/Places.h"
+
 #include <atomic>
 #include <cstdlib>
 #include <fcntl.h>
@@ -23,7 +25,7 @@ std::string slurp(const fs::path& path) {
 
 }  // namespace
 
-RunGame::RunGame() : data(BRIGHTCLASH_GAME_DIR) {
+RunGame::RunGame() : data(test::gamePath("")) {
     static std::atomic<int> counter{0};
     folder_ = fs::temp_directory_path() /
               ("brightclash-run-" + std::to_string(getpid()) + '-' + std::to_string(counter++));
@@ -51,7 +53,7 @@ int RunGame::headless(std::vector<std::string> args) {
 }
 
 int RunGame::run(std::vector<std::string> args) {
-    std::vector<std::string> all = {(fs::path(BRIGHTCLASH_GAME_DIR) / "brightclash").string(),
+    std::vector<std::string> all = {(fs::path(test::gamePath("")) / "brightclash").string(),
                                     "--user", folder_.string(), "--data", data.string()};
     if (!scriptFile_.empty())
         all.insert(all.end(), {"--script", scriptFile_});

@@ -5,6 +5,7 @@
 #include "input/GameInput.h"
 #include "input/InputManager.h"
 #include "support/ConsoleFixture.h"
+#include "support/Places.h"
 
 #include <gmock/gmock.h>
 
@@ -16,7 +17,7 @@ namespace {
 class ShippedDataTest : public ConsoleFixture {
   protected:
     ShippedDataTest() {
-        files::setFolders(user(), BRIGHTCLASH_SOURCE_DIR "/assets");
+        files::setFolders(user(), test::sourcePath("assets"));
         log = logOf([this] {
             vars().loadDeclarations("data/gamevars.xml");
             input.loadKeymap("data/keymaps.xml");

@@ -3,6 +3,7 @@
 // The definitions that the game ships.
 #include "core/Text.h"
 #include "particles/ParticleSystemParams.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 #include <tinyxml.h>
@@ -15,7 +16,7 @@
 namespace bc {
 namespace {
 
-const std::string assets = BRIGHTCLASH_SOURCE_DIR "/assets/";
+const std::string assets = test::sourcePath("assets/");
 
 /// Everything that the code and the rules of play start by name.
 constexpr const char* wanted =

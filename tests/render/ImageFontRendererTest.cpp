@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/ImageFile.h"
 #include "render/ImageFontRenderer.h"
+#include "support/Places.h"
 #include "support/RecordingRenderer.h"
 #include "support/TestFolders.h"
 #include "support/TestFont.h"
@@ -234,7 +235,7 @@ TEST(Font, CreatesDescriptorsInTheirPlace) {
 // The fonts that the build made: every letter has its own place with a mark in it, and figures
 // are equally wide, so that a counter does not tremble.
 TEST(ShippedFonts, HaveLegibleGlyphsForLatin) {
-    files::setFolders(BRIGHTCLASH_GAME_DIR, BRIGHTCLASH_GAME_DIR);
+    files::setFolders(test::gamePath(""), test::gamePath(""));
     for (const char* file : {"vera_12.xml", "verabd_14.xml", "verabd_18.xml", "verabd_24.xml"}) {
         Font font;
         testing::internal::CaptureStdout();

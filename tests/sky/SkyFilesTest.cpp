@@ -5,6 +5,7 @@
 #include "resources/FileSystem.h"
 #include "sky/BaseSky.h"
 #include "sky/SkyServices.h"
+#include "support/Places.h"
 #include "support/RecordingRenderer.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +19,7 @@
 namespace bc {
 namespace {
 
-const std::string assets = BRIGHTCLASH_SOURCE_DIR "/assets";
+const std::string assets = test::sourcePath("assets");
 
 std::set<std::string> shippedSkies() {
     std::set<std::string> names;

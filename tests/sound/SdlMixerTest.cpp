@@ -3,6 +3,8 @@
 // What reaches the device, written to a file by SDL's disk driver faster than it would be heard.
 #include "SoundFixture.h"
 
+#include "support/Places.h"
+
 #include <SDL/SDL.h>
 #include <gmock/gmock.h>
 
@@ -122,7 +124,7 @@ TEST_F(SdlMixerTest, SoundsAddUpAndVolumeScalesThem) {
 // Battle at its worst: ten of the game's own sounds from the same moment on.
 TEST_F(SdlMixerTest, TenEffectsAtOnceDoNotClip) {
     open();
-    files::setFolders(BRIGHTCLASH_GAME_DIR, BRIGHTCLASH_GAME_DIR);
+    files::setFolders(test::gamePath(""), test::gamePath(""));
     logOf([this] { sound.loadSoundDefs("data/sounds/sounds.xml"); });
     SDL_LockAudio();
     int channel = 10;

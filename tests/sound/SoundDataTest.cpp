@@ -5,6 +5,7 @@
 #include "SoundFixture.h"
 
 #include "sound/VirtualMixer.h"
+#include "support/Places.h"
 
 #include <SDL/SDL_mixer.h>
 
@@ -29,7 +30,7 @@ double decibels(double amplitude) {
 class SoundDataTest : public SoundFixture {
   protected:
     SoundDataTest() {
-        files::setFolders(BRIGHTCLASH_GAME_DIR, BRIGHTCLASH_GAME_DIR);
+        files::setFolders(test::gamePath(""), test::gamePath(""));
         setenv("SDL_AUDIODRIVER", "dummy", 1);
         vars().setVar("soundchannels", "2");
         logOf([this] { sound.init(); });
@@ -52,8 +53,8 @@ class SoundDataTest : public SoundFixture {
     /// Every rendered file in a folder below data/sounds.
     static std::vector<std::string> in(const std::string& folder) {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(
-                 std::string(BRIGHTCLASH_GAME_DIR) + "/data/sounds/" + folder))
+        for (const auto& entry :
+             std::filesystem::directory_iterator(test::gamePath("") + "data/sounds/" + folder))
             names.push_back("data/sounds/" + folder + "/" + entry.path().filename().string());
         std::sort(names.begin(), names.end());
         return names;

@@ -20,6 +20,7 @@
 #include "ports/GameResourceBundle.h"
 #include "ports/IGame.h"
 #include "support/FakeSound.h"
+#include "support/Places.h"
 #include "support/TestFolders.h"
 #include "world/World.h"
 
@@ -119,7 +120,7 @@ class PlayFixture : public TestFolders {
         commands().setOutput(&console);
         particleManager().makeDefaultDefinition();
         put(data() + "/particles.xml",
-            get(BRIGHTCLASH_SOURCE_DIR "/assets/data/particles/particles.xml"));
+            get(test::sourcePath("assets/data/particles/particles.xml")));
         logOf([] { particleManager().loadDefinitions("particles.xml"); });
         gameplay = std::make_unique<DefaultGameplay>(enemyTypes);
         auto bundle = std::make_unique<GameResourceBundle>();

@@ -4,6 +4,7 @@
 #include "gameplay/weapons/FireableWeapon.h"
 #include "gameplay/weapons/InstantWeapons.h"
 #include "gameplay/weapons/WeaponDefinitions.h"
+#include "support/Places.h"
 #include "support/PlayFixture.h"
 
 #include <gtest/gtest.h>
@@ -218,7 +219,7 @@ TEST_F(InventoryTest, DefinitionsComeFromTheFile) {
 }
 
 TEST_F(InventoryTest, TheShippedDefinitionsAreWholeAndKeepTheWeaponsInCharacter) {
-    put(data() + "/data/weapons.xml", get(BRIGHTCLASH_SOURCE_DIR "/assets/data/weapons.xml"));
+    put(data() + "/data/weapons.xml", get(test::sourcePath("assets/data/weapons.xml")));
     EXPECT_EQ(logOf([&] { run("reloadweapondefs"); }).find("Couldn't"), std::string::npos);
     for (int id = weapon::pistol; id <= weapon::lightningGun; ++id) {
         const FireableWeapon* w = bag().weaponObject(id);

@@ -5,13 +5,15 @@
 #include "EditorTypes.h"
 #include "XmlFile.h"
 
+#include "support/Places.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace bc::levelc {
 namespace {
 
-const std::string source = BRIGHTCLASH_SOURCE_DIR;
+const std::string source = test::sourcePath("");
 
 BodyTypes shipped() {
     std::string text;

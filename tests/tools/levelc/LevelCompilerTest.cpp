@@ -11,6 +11,7 @@
 #include "core/Text.h"
 #include "core/Vector.h"
 #include "resources/XmlAttributes.h"
+#include "support/Places.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -22,7 +23,7 @@
 namespace bc::levelc {
 namespace {
 
-const std::string assets = BRIGHTCLASH_SOURCE_DIR "/assets";
+const std::string assets = test::sourcePath("assets");
 const std::string start =
     R"(<object id="1" name="start" type="spawnpoint" x="40" y="40"><properties>
        <property name="startpoint" value="true"/></properties><point/></object>)";

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "XmlFile.h"
 
+#include "support/Places.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -32,7 +34,7 @@ class LevelcProgramTest : public testing::Test {
 
     std::string folder_;
     std::string said_;
-    const std::string assets_ = BRIGHTCLASH_SOURCE_DIR "/assets";
+    const std::string assets_ = test::sourcePath("assets");
 };
 
 TEST_F(LevelcProgramTest, CompilesTheSameLevelEveryTime) {
