@@ -54,7 +54,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     bc::BodyFactory factory;
     factory.registerDefaults();
     factory.registerPrototype(std::make_unique<FussyBody>());
-    const bc::xml::ExactNumbers exact;
     for (const bool restoring : {false, true}) {
         bc::World world;
         bc::LevelBodies bodies;

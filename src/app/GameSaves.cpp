@@ -62,7 +62,6 @@ void Game::saveGame() {
         return;
     }
     gameplay_->beforeSave();
-    const xml::ExactNumbers exact;
     TiXmlDocument document;
     auto* root = document.LinkEndChild(new TiXmlElement("save"))->ToElement();
     xml::writeInt(*root, "version", saveVersion);
@@ -77,7 +76,7 @@ void Game::saveGame() {
     saveEntities(world_, *root);
     saveOrder(world_, *root);
     auto* player = root->LinkEndChild(new TiXmlElement("Player"))->ToElement();
-    player_->saveState(*player);
+    player_->saveState(*player, Digits::exact);
     TiXmlPrinter printer;
     document.Accept(&printer);
     if (files::replace(path, printer.CStr())) {
@@ -107,7 +106,6 @@ bool Game::loadGame(const std::string& name) {
     const TiXmlElement* playerNode = root->FirstChildElement("Player");
     logLine("Loading save game: " + path);
     // Everything is read before the running level is let go.
-    const xml::ExactNumbers exact;
     const std::string level = xml::readString(*root, "currentlevel");
     std::optional<LevelBodies> bodies = readLevel(*bodyFactory_, level);
     LevelBodies entities;
@@ -151,7 +149,7 @@ bool Game::loadGame(const std::string& name) {
 }
 
 void Game::restorePlayer(const TiXmlElement& node, bool revives) {
-    player_->loadState(node);
+    player_->loadState(node, Digits::exact);
     // Who died comes back in full health, however little was left of it when the save was made.
     if (revives)
         player_->revivePending = true;

@@ -34,9 +34,10 @@ void BasicTimer::resume() {
     current = now;
 }
 
-std::string BasicTimer::toString() const {
-    return formatFloat(start) + ',' + formatFloat(current) + ',' + formatFloat(previous) + ',' +
-           formatFloat(rate) + ',' + boolText(running);
+std::string BasicTimer::toString(Digits digits) const {
+    return formatFloat(start, digits) + ',' + formatFloat(current, digits) + ',' +
+           formatFloat(previous, digits) + ',' + formatFloat(rate, digits) + ',' +
+           boolText(running);
 }
 
 void BasicTimer::fromString(std::string_view text) {

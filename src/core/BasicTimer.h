@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
+
 #include <string>
 #include <string_view>
 
@@ -31,7 +33,7 @@ struct BasicTimer {
     [[nodiscard]] float frameSeconds() const { return (current - previous) / 1000.0F; }
 
     /// "start,current,previous,rate,running" with running as true or false.
-    [[nodiscard]] std::string toString() const;
+    [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
     /// Reads the text form (fewer than five fields: the fields stay) and moves the times so that
     /// current is now and the elapsed time is what it was; not paused.
     void fromString(std::string_view text);

@@ -6,8 +6,9 @@
 
 namespace bc {
 
-std::string Dimension::toString() const {
-    return formatFloat(width) + ',' + formatFloat(height) + ',' + formatFloat(depth);
+std::string Dimension::toString(Digits digits) const {
+    return formatFloat(width, digits) + ',' + formatFloat(height, digits) + ',' +
+           formatFloat(depth, digits);
 }
 
 std::string Dimension::toSizeString() const {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
+
 #include <string>
 #include <string_view>
 
@@ -21,7 +23,7 @@ struct Dimension {
     [[nodiscard]] constexpr float getDepth() const { return depth; }
 
     /// "width,height,depth".
-    [[nodiscard]] std::string toString() const;
+    [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
     /// "width x height".
     [[nodiscard]] std::string toSizeString() const;
     /// Two or three comma-separated numbers; fewer change nothing.

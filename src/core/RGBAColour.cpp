@@ -6,8 +6,9 @@
 
 namespace bc {
 
-std::string RGBAColour::toString() const {
-    return formatFloat(r) + ',' + formatFloat(g) + ',' + formatFloat(b) + ',' + formatFloat(a);
+std::string RGBAColour::toString(Digits digits) const {
+    return formatFloat(r, digits) + ',' + formatFloat(g, digits) + ',' + formatFloat(b, digits) +
+           ',' + formatFloat(a, digits);
 }
 
 void RGBAColour::fromString(std::string_view text) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -26,7 +28,7 @@ struct RGBAColour {
     [[nodiscard]] constexpr float getA() const { return a; }
 
     /// "r,g,b,a".
-    [[nodiscard]] std::string toString() const;
+    [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
     /// Accepts exactly four numbers; anything else changes nothing.
     void fromString(std::string_view text);
 

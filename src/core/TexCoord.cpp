@@ -6,8 +6,8 @@
 
 namespace bc {
 
-std::string TexCoord::toString() const {
-    return formatFloat(u) + ',' + formatFloat(v);
+std::string TexCoord::toString(Digits digits) const {
+    return formatFloat(u, digits) + ',' + formatFloat(v, digits);
 }
 
 void TexCoord::fromString(std::string_view text) {

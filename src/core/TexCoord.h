@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
+
 #include <string>
 #include <string_view>
 
@@ -16,7 +18,7 @@ struct TexCoord {
     constexpr TexCoord(float pu, float pv) : u(pu), v(pv) {}
 
     /// "u,v".
-    [[nodiscard]] std::string toString() const;
+    [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
     /// Accepts exactly two numbers; anything else changes nothing.
     void fromString(std::string_view text);
 

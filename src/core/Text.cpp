@@ -13,8 +13,6 @@ namespace bc {
 
 namespace {
 
-int exactFloats = 0;
-
 char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
@@ -91,17 +89,10 @@ bool parseBool(const char* text) {
     return text != nullptr && std::string_view(text) == "true";
 }
 
-ExactFloats::ExactFloats() {
-    ++exactFloats;
-}
-ExactFloats::~ExactFloats() {
-    --exactFloats;
-}
-
-std::string formatFloat(float value) {
+std::string formatFloat(float value, Digits digits) {
     char buffer[32];
     char* const limit = buffer + sizeof buffer;
-    const auto end = exactFloats > 0
+    const auto end = digits == Digits::exact
                          ? std::to_chars(buffer, limit, value, std::chars_format::general).ptr
                          : std::to_chars(buffer, limit, value, std::chars_format::general, 6).ptr;
     return {buffer, end};

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,16 +28,8 @@ bool splitExtension(std::string_view fileName, std::string& base, std::string& e
 [[nodiscard]] bool parseBool(std::string_view text);
 [[nodiscard]] bool parseBool(const char* text);
 
-/// General notation with six significant digits, as an output stream writes a float.
-[[nodiscard]] std::string formatFloat(float value);
-/// While one lives, formatFloat takes the digits it needs for the number to read back unchanged.
-class ExactFloats {
-  public:
-    ExactFloats();
-    ~ExactFloats();
-    ExactFloats(const ExactFloats&) = delete;
-    ExactFloats& operator=(const ExactFloats&) = delete;
-};
+/// General notation; the usual digits are those with which an output stream writes a float.
+[[nodiscard]] std::string formatFloat(float value, Digits digits = Digits::usual);
 /// The number that the text begins with, else 0. What is not finite reads as 0, so that NaN and
 /// infinity never enter the game through a text.
 [[nodiscard]] float parseFloat(std::string_view text);

@@ -8,8 +8,8 @@
 
 namespace bc {
 
-std::string Vector::toString() const {
-    return formatFloat(x) + ',' + formatFloat(y) + ',' + formatFloat(z);
+std::string Vector::toString(Digits digits) const {
+    return formatFloat(x, digits) + ',' + formatFloat(y, digits) + ',' + formatFloat(z, digits);
 }
 
 void Vector::fromString(std::string_view text) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
+
 #include <string>
 #include <string_view>
 
@@ -20,7 +22,7 @@ struct Vector {
     explicit Vector(std::string_view text) { fromString(text); }
 
     /// "x,y,z" in general float notation.
-    [[nodiscard]] std::string toString() const;
+    [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
     /// Reads "x,y" (z stays) or "x,y,z"; anything with fewer numbers changes nothing.
     void fromString(std::string_view text);
 

@@ -18,26 +18,14 @@ std::string_view text(const TiXmlElement& e, const char* name) {
     return value != nullptr ? std::string_view(value) : std::string_view();
 }
 
-int exactNumbers = 0;
-
 std::string exactName(const char* name) {
     return std::string(name) + ".exact";
 }
 
 }  // namespace
 
-ExactNumbers::ExactNumbers() {
-    ++exactNumbers;
-}
-ExactNumbers::~ExactNumbers() {
-    --exactNumbers;
-}
-bool ExactNumbers::inForce() {
-    return exactNumbers > 0;
-}
-
-std::string numberText(const TiXmlElement& e, const char* name) {
-    if (exactNumbers > 0)
+std::string numberText(const TiXmlElement& e, const char* name, Digits digits) {
+    if (digits == Digits::exact)
         if (const char* exact = e.Attribute(exactName(name).c_str()))
             return exact;
     return readString(e, name);
@@ -46,8 +34,9 @@ void writeExactText(TiXmlElement& e, const char* name, const std::string& text) 
     writeString(e, exactName(name).c_str(), text);
 }
 
-float readFloat(const TiXmlElement& e, const char* name) {
-    return exactNumbers > 0 ? parseFloat(numberText(e, name)) : parseFloat(text(e, name));
+float readFloat(const TiXmlElement& e, const char* name, Digits digits) {
+    return digits == Digits::exact ? parseFloat(numberText(e, name, digits))
+                                   : parseFloat(text(e, name));
 }
 int readInt(const TiXmlElement& e, const char* name) {
     return parseInt(text(e, name));
@@ -72,7 +61,7 @@ void writeBool(TiXmlElement& e, const char* name, bool value) {
     e.SetAttribute(name, boolText(value));
 }
 
-void writeFloat(TiXmlElement& e, const char* name, float value) {
+void writeFloat(TiXmlElement& e, const char* name, float value, Digits digits) {
     // The largest float has 39 digits before the point and six are written behind it.
     std::array<char, 64> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size() - 1, value,
@@ -80,10 +69,8 @@ void writeFloat(TiXmlElement& e, const char* name, float value) {
                          .ptr;
     *end = '\0';
     e.SetAttribute(name, buffer.data());
-    if (exactNumbers == 0 || parseFloat(buffer.data()) == value)
-        return;
-    const ExactFloats exact;
-    writeExactText(e, name, formatFloat(value));
+    if (digits == Digits::exact && parseFloat(buffer.data()) != value)
+        writeExactText(e, name, formatFloat(value, digits));
 }
 
 }  // namespace bc::xml

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/Text.h"
+#include "core/Digits.h"
 
 #include <string>
 
@@ -14,34 +14,27 @@ namespace bc {
 // false (true only for exactly "true"), a missing value leaves the target unchanged.
 namespace xml {
 
-[[nodiscard]] float readFloat(const TiXmlElement& e, const char* name);
+[[nodiscard]] float readFloat(const TiXmlElement& e, const char* name,
+                              Digits digits = Digits::usual);
 [[nodiscard]] int readInt(const TiXmlElement& e, const char* name);
 [[nodiscard]] bool readBool(const TiXmlElement& e, const char* name);
 [[nodiscard]] bool has(const TiXmlElement& e, const char* name);
 /// Empty when missing.
 [[nodiscard]] std::string readString(const TiXmlElement& e, const char* name);
 
-/// While one lives, a number whose usual text reads back as another one is written a second time,
-/// to the last bit, under its name with ".exact" behind it; and read from there, if it is there.
-/// For saves: a run that goes on from one stays the same run.
-class ExactNumbers {
-  public:
-    ExactNumbers();
-    ~ExactNumbers();
-    ExactNumbers(const ExactNumbers&) = delete;
-    ExactNumbers& operator=(const ExactNumbers&) = delete;
-    [[nodiscard]] static bool inForce();
-};
+// With exact digits, a number whose usual text reads back as another one is written a second time
+// under its name with ".exact" behind it, and read from there if it is there.
 
 /// The text of an attribute that holds numbers.
-[[nodiscard]] std::string numberText(const TiXmlElement& e, const char* name);
+[[nodiscard]] std::string numberText(const TiXmlElement& e, const char* name, Digits digits);
 void writeExactText(TiXmlElement& e, const char* name, const std::string& text);
 
 /// For types with fromString and toString (Vector, RGBAColour, Dimension, TexCoord, BasicTimer).
 template <class Value>
-void readValue(const TiXmlElement& e, const char* name, Value& value) {
+void readValue(const TiXmlElement& e, const char* name, Value& value,
+               Digits digits = Digits::usual) {
     if (has(e, name))
-        value.fromString(numberText(e, name));
+        value.fromString(numberText(e, name, digits));
 }
 
 void writeString(TiXmlElement& e, const char* name, const std::string& value);
@@ -50,15 +43,15 @@ void writeInt(TiXmlElement& e, const char* name, int value);
 /// "true" or "false"
 void writeBool(TiXmlElement& e, const char* name, bool value);
 /// "%f"
-void writeFloat(TiXmlElement& e, const char* name, float value);
+void writeFloat(TiXmlElement& e, const char* name, float value, Digits digits = Digits::usual);
 template <class Value>
-void writeValue(TiXmlElement& e, const char* name, const Value& value) {
+void writeValue(TiXmlElement& e, const char* name, const Value& value,
+                Digits digits = Digits::usual) {
     const std::string text = value.toString();
     writeString(e, name, text);
-    if (!ExactNumbers::inForce())
+    if (digits == Digits::usual)
         return;
-    const ExactFloats exact;
-    if (const std::string longer = value.toString(); longer != text)
+    if (const std::string longer = value.toString(Digits::exact); longer != text)
         writeExactText(e, name, longer);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
 #include "ports/Drawable.h"
 #include "world/BRect.h"
 #include "world/TouchInfo.h"
@@ -16,6 +17,7 @@ class TiXmlElement;
 
 namespace bc {
 
+class BodyFields;
 class BodyIndex;
 class BodyParticleSystemObserver;
 class CollisionShape;
@@ -117,9 +119,11 @@ class alignas(64) Body : public Drawable {
     virtual void think(float /*dt*/) {}
     /// Called by the gameplay controller in every simulation step, before the world moves.
     virtual void update(float /*dt*/) {}
-    /// The free-form attributes of the level file. A class reads those it knows and passes the map
-    /// on to its base first.
-    virtual void applyAttributes(const std::map<std::string, std::string>& attributes);
+    /// Declares every field that files know by name: what a level gives, a save keeps and a dump
+    /// shows. Overrides call their base first.
+    virtual void fields(BodyFields& f);
+    /// Takes over the custom attributes of a level object.
+    void applyAttributes(const std::map<std::string, std::string>& attributes);
     /// Called by the loader for each body, in this order, once all bodies of the level are in the
     /// world: onBeforeTargets, (targets are resolved), onLoaded, onRestored or onSpawned (from a
     /// save or from a level file), onAfterLoad. Not called for bodies spawned during play.
@@ -159,12 +163,16 @@ class alignas(64) Body : public Drawable {
     void setTexture(const std::string& name);
     /// One line for the log.
     [[nodiscard]] std::string describe() const;
-    /// State attributes of a save. What is missing reads as loadState's contract for each kind:
-    /// vectors stay, bools are false, numbers 0. Values beyond maxCoordinate are refused.
-    virtual void loadState(const TiXmlElement& e);
-    virtual void saveState(TiXmlElement& e) const;
-    /// Adds what the type keeps to the debug element of a world dump; overrides call their base.
-    virtual void dumpState(TiXmlElement& debug) const;
+    /// Restores the declared fields from the attributes of a save. See BodyFields for those that
+    /// are missing; places beyond maxCoordinate are refused.
+    void loadState(const TiXmlElement& e, Digits digits = Digits::usual);
+    void saveState(TiXmlElement& e, Digits digits = Digits::usual) const;
+    /// Adds the declared fields to the debug element of a world dump.
+    void dumpState(TiXmlElement& debug) const;
+
+  protected:
+    /// Called at the end of loadState, for what follows from the values.
+    virtual void onStateRead() {}
 
   private:
     friend struct BodyStep;
@@ -295,6 +303,8 @@ class alignas(64) Body : public Drawable {
     void turnBox();
     void compareBox();
     void noteParticles();
+    /// "id:name" of each target, separated by commas.
+    [[nodiscard]] std::string resolvedTargets() const;
     void forgetParticleSystem(ParticleSystem& system);
 
     mutable std::vector<Vector> worldVertices_;

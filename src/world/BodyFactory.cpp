@@ -20,8 +20,10 @@ void BodyFactory::registerPrototype(std::unique_ptr<Body> prototype) {
 std::unique_ptr<Body> BodyFactory::tryCreate(const std::string& type) {
     for (const std::unique_ptr<Body>& prototype : prototypes_)
         if (prototype->type == type) {
-            if (auto body = prototype->create())
+            if (auto body = prototype->create()) {
+                body->type = type;
                 return body;
+            }
             break;
         }
     return fallback_ != nullptr && fallback_ != this ? fallback_->tryCreate(type) : nullptr;

@@ -6,6 +6,7 @@
 #include "core/Text.h"
 #include "resources/XmlAttributes.h"
 #include "world/BodyFactory.h"
+#include "world/StateVisitors.h"
 
 #include <tinyxml.h>
 
@@ -21,32 +22,8 @@ namespace bc::levelformat {
 
 namespace {
 
-// What a level calls static.
-constexpr float staticMass = 1e-7F;
 constexpr const char* shapeAttribute = "shape";
 constexpr const char* radiusAttribute = "radius";
-
-void readParams(Body& body, const TiXmlElement& e) {
-    body.targets = xml::readString(e, "targets");
-    body.solid = xml::readBool(e, "solid");
-    if (xml::has(e, "entity"))
-        body.entity = xml::readBool(e, "entity");
-    body.outlined = xml::readBool(e, "outlined");
-    xml::readValue(e, "outlinecolour", body.outlinecolour);
-    body.outlinewidth = xml::readInt(e, "outlinewidth");
-    body.texhscale = xml::readFloat(e, "texhscale");
-    body.texhshift = xml::readFloat(e, "texhshift");
-    body.texvscale = xml::readFloat(e, "texvscale");
-    body.texvshift = xml::readFloat(e, "texvshift");
-    body.texrotate = xml::readFloat(e, "texrotate");
-    body.setTexture(xml::readString(e, "texture"));
-    body.textured = xml::readBool(e, "textured");
-    body.visible = xml::readBool(e, "visible");
-    body.zShift = xml::readFloat(e, "z-shift");
-    const float mass = xml::readFloat(e, "mass");
-    body.mass = mass > staticMass ? mass : 0;
-    body.invMass = mass > staticMass ? 1 / mass : 0;
-}
 
 /// Not "nan", "inf" or a number that overflows; what is no number at all reads as 0.
 bool isFiniteText(const std::string& token) {
@@ -70,7 +47,7 @@ std::optional<Vector> readOrigin(const std::string& text) {
 }
 
 /// Empty, or why the body is refused.
-std::string readCorners(Body& body, const TiXmlElement& e) {
+std::string readCorners(Body& body, const TiXmlElement& e, Digits digits) {
     int count = 0;
     // A polygon that its class gave it is not added to.
     if (e.FirstChildElement("verts") != nullptr)
@@ -87,11 +64,11 @@ std::string readCorners(Body& body, const TiXmlElement& e) {
                 return "corner at " + text;
             body.addWorldVertex(origin->x, origin->y, origin->z);
             RGBAColour colour;
-            xml::readValue(*v, "colour", colour);
+            xml::readValue(*v, "colour", colour, digits);
             body.colours.push_back(colour);
             if (xml::has(*v, "texcoords")) {
                 TexCoord coord;
-                xml::readValue(*v, "texcoords", coord);
+                xml::readValue(*v, "texcoords", coord, digits);
                 body.texCoords.push_back(coord);
             }
         }
@@ -127,15 +104,17 @@ TiXmlElement* appendChild(TiXmlElement& parent, const char* name) {
 
 }  // namespace
 
-std::unique_ptr<Body> readBody(BodyCreator& factory, const TiXmlElement& e, bool skipEntities) {
+std::unique_ptr<Body> readBody(BodyCreator& factory, const TiXmlElement& e, bool skipEntities,
+                               Digits digits) {
     std::unique_ptr<Body> body = factory.create(xml::readString(e, "type"));
     body->id = xml::readString(e, "idname");
     if (const TiXmlElement* params = e.FirstChildElement("params")) {
-        readParams(*body, *params);
+        PlacedReader reader(*params, digits);
+        body->fields(reader);
         if (skipEntities && body->entity)
             return nullptr;
     }
-    if (const std::string reason = readCorners(*body, e); !reason.empty()) {
+    if (const std::string reason = readCorners(*body, e, digits); !reason.empty()) {
         logLine("Refused body " + body->id + " of type " + body->type + ": " + reason);
         return nullptr;
     }
@@ -157,12 +136,12 @@ std::unique_ptr<Body> readBody(BodyCreator& factory, const TiXmlElement& e, bool
 void writeShape(const Body& body, TiXmlElement& custom) {
     if (body.usesDefaultShape || body.localVertices.empty())
         return;
-    const ExactFloats exact;
     std::string corners;
     for (const Vector& corner : body.localVertices)
-        corners += formatFloat(corner.x) + ',' + formatFloat(corner.y) + ';';
+        corners +=
+            formatFloat(corner.x, Digits::exact) + ',' + formatFloat(corner.y, Digits::exact) + ';';
     xml::writeString(custom, shapeAttribute, corners);
-    xml::writeString(custom, radiusAttribute, formatFloat(body.radius));
+    xml::writeString(custom, radiusAttribute, formatFloat(body.radius, Digits::exact));
 }
 
 void readShape(Body& body, const TiXmlElement& custom) {
@@ -183,41 +162,28 @@ void readShape(Body& body, const TiXmlElement& custom) {
     body.localVertices = std::move(read);
     body.angle = angle;
     // It never shrinks: what the rounded corners gave it goes.
-    body.radius = std::clamp(xml::readFloat(custom, radiusAttribute), 0.0F, Body::maxCoordinate);
+    body.radius = std::clamp(xml::readFloat(custom, radiusAttribute, Digits::exact), 0.0F,
+                             Body::maxCoordinate);
 }
 
-TiXmlElement* writeBody(const Body& body, TiXmlElement& parent) {
+TiXmlElement* writeBody(const Body& body, TiXmlElement& parent, Digits digits) {
     TiXmlElement* p = appendChild(parent, "P");
     xml::writeString(*p, "idname", body.id);
     xml::writeString(*p, "type", body.type);
 
-    TiXmlElement& params = *appendChild(*p, "params");
-    xml::writeString(params, "targets", body.targets);
-    xml::writeBool(params, "solid", body.solid);
-    xml::writeBool(params, "entity", body.entity);
-    xml::writeBool(params, "outlined", body.outlined);
-    xml::writeValue(params, "outlinecolour", body.outlinecolour);
-    xml::writeInt(params, "outlinewidth", body.outlinewidth);
-    xml::writeFloat(params, "texhscale", body.texhscale);
-    xml::writeFloat(params, "texhshift", body.texhshift);
-    xml::writeFloat(params, "texvscale", body.texvscale);
-    xml::writeFloat(params, "texvshift", body.texvshift);
-    xml::writeFloat(params, "texrotate", body.texrotate);
-    xml::writeBool(params, "textured", body.textured);
-    xml::writeString(params, "texture", body.texture);
-    xml::writeBool(params, "visible", body.visible);
-    xml::writeFloat(params, "z-shift", body.zShift);
-    xml::writeFloat(params, "mass", body.mass);
+    PlacedWriter writer(*appendChild(*p, "params"), digits);
+    // A visitor that writes changes nothing.
+    const_cast<Body&>(body).fields(writer);
 
     TiXmlElement& verts = *appendChild(*p, "verts");
     const std::vector<Vector>& corners = body.worldVertices();
     for (std::size_t i = 0; i < corners.size(); ++i) {
         TiXmlElement& v = *appendChild(verts, "v");
-        xml::writeValue(v, "origin", corners[i]);
+        xml::writeValue(v, "origin", corners[i], digits);
         if (i < body.colours.size())
-            xml::writeValue(v, "colour", body.colours[i]);
+            xml::writeValue(v, "colour", body.colours[i], digits);
         if (i < body.texCoords.size())
-            xml::writeValue(v, "texcoords", body.texCoords[i]);
+            xml::writeValue(v, "texcoords", body.texCoords[i], digits);
     }
 
     TiXmlElement& attributes = *appendChild(*p, "attributes");
@@ -226,7 +192,7 @@ TiXmlElement* writeBody(const Body& body, TiXmlElement& parent) {
         xml::writeString(a, "name", name);
         xml::writeString(a, "value", value);
     }
-    body.saveState(*appendChild(*p, "custom"));
+    body.saveState(*appendChild(*p, "custom"), digits);
     return p;
 }
 

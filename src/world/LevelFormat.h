@@ -23,9 +23,9 @@ inline constexpr int maxCorners = 64;
 /// Null for an entity when skipEntities is set, and, with a log line, for a body with too many
 /// corners or with corners that are no places (not finite, beyond Body::maxCoordinate).
 [[nodiscard]] std::unique_ptr<Body> readBody(BodyCreator& factory, const TiXmlElement& e,
-                                             bool skipEntities);
+                                             bool skipEntities, Digits digits = Digits::usual);
 /// Appends a P element, with the state in custom. Returns it.
-TiXmlElement* writeBody(const Body& body, TiXmlElement& parent);
+TiXmlElement* writeBody(const Body& body, TiXmlElement& parent, Digits digits = Digits::usual);
 /// The polygon before it was turned and placed, to the last bit, which the places of its corners do
 /// not tell. Nothing for a body of a default shape.
 void writeShape(const Body& body, TiXmlElement& custom);

@@ -42,11 +42,12 @@ void readObjects(BodyCreator& factory, const TiXmlElement& objects, bool skipEnt
             logLine("Refused the bodies beyond " + std::to_string(levelformat::maxBodies));
             return;
         }
-        std::unique_ptr<Body> body = levelformat::readBody(factory, *p, skipEntities);
+        std::unique_ptr<Body> body = levelformat::readBody(
+            factory, *p, skipEntities, withState ? Digits::exact : Digits::usual);
         if (!body)
             continue;
         if (const TiXmlElement* custom = p->FirstChildElement("custom"); withState && custom) {
-            body->loadState(*custom);
+            body->loadState(*custom, Digits::exact);
             levelformat::readShape(*body, *custom);
         }
         out.push_back(std::move(body));
@@ -203,7 +204,7 @@ void saveEntities(const World& world, TiXmlElement& root) {
     TiXmlElement* objects = root.LinkEndChild(new TiXmlElement("Objects"))->ToElement();
     for (const Body* body : world.allBodies())
         if (body->keptInSaves()) {
-            TiXmlElement* p = levelformat::writeBody(*body, *objects);
+            TiXmlElement* p = levelformat::writeBody(*body, *objects, Digits::exact);
             levelformat::writeShape(*body, *p->FirstChildElement("custom"));
         }
 }

@@ -31,7 +31,7 @@ using LevelBodies = std::vector<std::unique_ptr<Body>>;
 [[nodiscard]] std::optional<LevelBodies> readLevel(BodyCreator& factory, std::string_view name,
                                                    bool skipEntities = false);
 /// Reads the bodies under the root's Objects elements, with the state in their custom children, and
-/// appends them. Texts are read exactly while xml::ExactNumbers is in force. False when the root
+/// appends them. Numbers are read exactly. False when the root
 /// has no Objects element.
 bool readSavedBodies(BodyCreator& factory, const TiXmlElement& root, LevelBodies& out);
 

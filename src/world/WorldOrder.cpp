@@ -94,14 +94,14 @@ bool moves(const Body& body) {
 /// "id,left,right,top,bottom,radius;" for each: a side that a body has not moved to of late keeps
 /// its reach from when it did, and the radius never shrinks.
 std::string reaches(const World& world) {
-    const ExactFloats exact;
     std::string text;
+    const auto exact = [](float value) { return formatFloat(value, Digits::exact); };
     for (const Body* body : world.allBodies())
         if (moves(*body) && (body->entity || isPlayer(*body))) {
             const BRect& b = body->bounds;
-            text += std::to_string(body->autoid) + ',' + formatFloat(b.sweptLeft) + ',' +
-                    formatFloat(b.sweptRight) + ',' + formatFloat(b.sweptTop) + ',' +
-                    formatFloat(b.sweptBottom) + ',' + formatFloat(body->radius) + ';';
+            text += std::to_string(body->autoid) + ',' + exact(b.sweptLeft) + ',' +
+                    exact(b.sweptRight) + ',' + exact(b.sweptTop) + ',' + exact(b.sweptBottom) +
+                    ',' + exact(body->radius) + ';';
         }
     return text;
 }

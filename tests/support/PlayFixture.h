@@ -26,7 +26,6 @@
 
 #include <initializer_list>
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -107,7 +106,7 @@ class PlayFixture : public TestFolders {
     static constexpr float dt = 0.025F;
     static constexpr int stepMs = 25;
 
-    explicit PlayFixture(std::span<const GameBodyType> enemyTypes = {}) {
+    PlayFixture() {
         useVirtualTicks(1000);
         seedRandom(1);
         for (const auto& [name, value] :
@@ -122,7 +121,7 @@ class PlayFixture : public TestFolders {
         put(data() + "/particles.xml",
             get(test::sourcePath("assets/data/particles/particles.xml")));
         logOf([] { particleManager().loadDefinitions("particles.xml"); });
-        gameplay = std::make_unique<DefaultGameplay>(enemyTypes);
+        gameplay = std::make_unique<DefaultGameplay>();
         auto bundle = std::make_unique<GameResourceBundle>();
         bundle->game = &game;
         bundle->sound = &game.sound;

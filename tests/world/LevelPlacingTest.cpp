@@ -3,6 +3,7 @@
 // What happens when read bodies are placed, saved and dumped, and what it tells.
 #include "support/ConsoleFixture.h"
 #include "world/BodyFactory.h"
+#include "world/BodyFields.h"
 #include "world/LevelLoader.h"
 #include "world/World.h"
 #include "world/WorldDump.h"
@@ -36,9 +37,9 @@ class Hooked final : public Body {
     void onRestored() override { note("restored"); }
     void onSpawned() override { note("spawned"); }
     void onAfterLoad() override { note("after"); }
-    void dumpState(TiXmlElement& debug) const override {
-        Body::dumpState(debug);
-        debug.SetAttribute("mood", "calm");
+    void fields(BodyFields& f) override {
+        Body::fields(f);
+        f.shown("mood", std::string("calm"));
     }
 
   private:

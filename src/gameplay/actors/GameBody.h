@@ -75,15 +75,12 @@ class GameBody : public Body, public GameBodyState {
     ~GameBody() override = default;
 
     [[nodiscard]] std::unique_ptr<Body> create() const override;
+    void fields(BodyFields& f) override;
     void die() override;
     /// Keeps a body in limbo in its place and brings it back in time.
     void update(float dt) override;
     /// Calls onThink, but for a body in limbo.
     void think(float dt) final;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
     /// Finds the owner that a save names.
     void onBeforeTargets() override;
     void onBodyRemoved(const Body& gone) override;

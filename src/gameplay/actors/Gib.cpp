@@ -10,9 +10,7 @@
 #include "gameplay/actors/SoundIds.h"
 #include "gameplay/actors/Spawning.h"
 #include "particles/ParticleManager.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 #include <cmath>
 
@@ -38,12 +36,14 @@ Gib::Gib() {
     Gib::renew();
 }
 
-Gib::~Gib() {
-    returnToBudget();
+void Gib::fields(BodyFields& f) {
+    PooledBody::fields(f);
+    f.shown("deathtime", deathTime);
+    f.kept("nextbouncesound", nextBounceSound);
 }
 
-std::unique_ptr<Body> Gib::create() const {
-    return std::make_unique<Gib>();
+Gib::~Gib() {
+    returnToBudget();
 }
 
 void Gib::renew() {
@@ -106,22 +106,6 @@ bool Gib::acceptsCollision(const Body& other) const {
 void Gib::onTouch(const TouchInfo& touch) {
     if (isStaticGeometry(*touch.other))
         playBounceSound(*this, nextBounceSound);
-}
-
-void Gib::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    nextBounceSound = xml::readFloat(e, "nextbouncesound");
-}
-
-void Gib::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeFloat(e, "nextbouncesound", nextBounceSound);
-}
-
-void Gib::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeFloat(debug, "deathtime", deathTime);
-    xml::writeFloat(debug, "nextbouncesound", nextBounceSound);
 }
 
 bool isStaticGeometry(const Body& body) {

@@ -3,28 +3,26 @@
 #pragma once
 
 #include "gameplay/actors/BodyPool.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// A fragment that a violent death throws out (type "gib"): bounces about for three seconds. How
 /// many there are at once is limited by the controller's gib budget.
-class Gib final : public PooledBody {
+class Gib final : public Creatable<Gib, PooledBody> {
   public:
     /// Milliseconds.
     static constexpr float lifetime = 3000;
 
     Gib();
     ~Gib() override;
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void renew() override;
     void retire(std::unique_ptr<Body> self) override;
     void onThink(float dt) override;
     void onTouch(const TouchInfo& touch) override;
     [[nodiscard]] bool acceptsCollision(const Body& other) const override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// Throws one whose unit of the budget has been granted.
     static void launchFrom(const Vector& position);

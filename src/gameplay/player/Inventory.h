@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
 #include "core/Vector.h"
 #include "gameplay/weapons/WeaponTable.h"
 
@@ -72,8 +73,8 @@ class Inventory {
     [[nodiscard]] FireableWeapon* weaponObject(int weaponId) const;
 
     /// Writes and reads the element "inventory" under the node.
-    void saveState(TiXmlElement& node) const;
-    void loadState(const TiXmlElement& node);
+    void saveState(TiXmlElement& node, Digits digits) const;
+    void loadState(const TiXmlElement& node, Digits digits);
     void dumpState(TiXmlElement& node) const;
     void onBodyRemoved(const Body& gone);
 

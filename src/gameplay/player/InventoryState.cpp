@@ -50,30 +50,30 @@ void readNumbers(const TiXmlElement* node, Numbers& numbers) {
 
 }  // namespace
 
-void Inventory::saveState(TiXmlElement& parent) const {
+void Inventory::saveState(TiXmlElement& parent, Digits digits) const {
     TiXmlElement& node = appendChild(parent, "inventory");
     xml::writeInt(node, "activeweap", activeWeapon_);
-    xml::writeFloat(node, "nextnoammosound", nextNoAmmoSound_);
-    xml::writeFloat(node, "nextquadfiresound", nextQuadFireSound_);
-    xml::writeFloat(node, "nextnoammochange", nextNoAmmoChange_);
+    xml::writeFloat(node, "nextnoammosound", nextNoAmmoSound_, digits);
+    xml::writeFloat(node, "nextquadfiresound", nextQuadFireSound_, digits);
+    xml::writeFloat(node, "nextnoammochange", nextNoAmmoChange_, digits);
     xml::writeInt(node, "bestweaponrating", pendingWeapon_);
     writeNumbers(appendChild(node, "weapons"), 'w', owned_);
     writeNumbers(appendChild(node, "ammo"), 'a', ammo_);
     TiXmlElement& delays = appendChild(node, "delays");
     for (int id = 1; id <= weapon::lastFiring; ++id)
         if (const FireableWeapon* w = weaponObject(id))
-            xml::writeFloat(delays, ('w' + std::to_string(id)).c_str(), w->nextFireTime);
+            xml::writeFloat(delays, ('w' + std::to_string(id)).c_str(), w->nextFireTime, digits);
 }
 
-void Inventory::loadState(const TiXmlElement& parent) {
+void Inventory::loadState(const TiXmlElement& parent, Digits digits) {
     const TiXmlElement* node = parent.FirstChildElement("inventory");
     if (node == nullptr)
         return;
     const int active = xml::readInt(*node, "activeweap");
     activeWeapon_ = active >= 1 && active <= weapon::last ? active : weapon::pistol;
-    nextNoAmmoSound_ = xml::readFloat(*node, "nextnoammosound");
-    nextQuadFireSound_ = xml::readFloat(*node, "nextquadfiresound");
-    nextNoAmmoChange_ = xml::readFloat(*node, "nextnoammochange");
+    nextNoAmmoSound_ = xml::readFloat(*node, "nextnoammosound", digits);
+    nextQuadFireSound_ = xml::readFloat(*node, "nextquadfiresound", digits);
+    nextNoAmmoChange_ = xml::readFloat(*node, "nextnoammochange", digits);
     pendingWeapon_ = xml::readInt(*node, "bestweaponrating");
     readNumbers(node->FirstChildElement("weapons"), owned_);
     readNumbers(node->FirstChildElement("ammo"), ammo_);
@@ -84,7 +84,7 @@ void Inventory::loadState(const TiXmlElement& parent) {
 }
 
 void Inventory::dumpState(TiXmlElement& parent) const {
-    saveState(parent);
+    saveState(parent, Digits::usual);
     for (int id = 1; id <= weapon::lastFiring; ++id) {
         const FireableWeapon* w = weaponObject(id);
         if (w == nullptr)

@@ -57,10 +57,6 @@ Player::~Player() {
         play.hud->setPlayer(nullptr);
 }
 
-std::unique_ptr<Body> Player::create() const {
-    return std::make_unique<Player>();
-}
-
 void Player::addHealth(int n) {
     maxHealth = progress.maxHealth;
     health = std::min(saturated(0LL + health + n), maxHealth);

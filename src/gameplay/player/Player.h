@@ -7,12 +7,13 @@
 #include "gameplay/player/PlayerProperties.h"
 #include "gameplay/weapons/GrappleHolder.h"
 #include "hud/HudPlayer.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// The craft the user flies (type "player"). Made once by the application, which owns it and takes
 /// it from level to level; it dies by being hidden until the last save has been loaded.
-class Player final : public GameBody, public GrappleHolder, public HudPlayer {
+class Player final : public Creatable<Player, GameBody>, public GrappleHolder, public HudPlayer {
   public:
     /// How long quad damage and invincibility last, milliseconds.
     static constexpr float powerUpTime = 30000;
@@ -21,17 +22,14 @@ class Player final : public GameBody, public GrappleHolder, public HudPlayer {
 
     Player();
     ~Player() override;
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void die() override;
     void onThink(float dt) override;
     void onLoaded() override;
     /// Notes what it stands on that is the first of the pair.
     void onTouch(const TouchInfo& touch) override;
     void drawExtras(IRenderer& renderer) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
     void onBodyRemoved(const Body& gone) override;
     [[nodiscard]] bool keptInSaves() const override { return false; }
     [[nodiscard]] int swarmLevel() const override { return progress.swarmLevel; }
@@ -104,6 +102,9 @@ class Player final : public GameBody, public GrappleHolder, public HudPlayer {
     /// Follows the craft on a leash, for the chase camera.
     Vector chasePoint;
     bool atChasePoint = false;
+
+  protected:
+    void onStateRead() override;
 
   private:
     void attachEffect(std::string_view name);

@@ -7,6 +7,7 @@
 #include <tinyxml.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace bc {
 
@@ -26,6 +27,16 @@ constexpr UpgradeInfo upgrades[] = {
     {375, 11, 5, 5, 4, "Level 11 - Max Armour 500", "Upgraded to Level 11 : Max Armour Increased"},
     {400, 12, 5, 5, 5, "Level 12 - Swarm Upgraded",
      "Upgraded to Maximum Level 12 : Swarm Upgraded"},
+};
+
+constexpr std::pair<const char*, int PlayerProperties::*> savedNumbers[] = {
+    {"cash", &PlayerProperties::cash},
+    {"swarmlevel", &PlayerProperties::swarmLevel},
+    {"healthlevel", &PlayerProperties::healthLevel},
+    {"armourlevel", &PlayerProperties::armourLevel},
+    {"maxhealth", &PlayerProperties::maxHealth},
+    {"maxarmour", &PlayerProperties::maxArmour},
+    {"currentlevel", &PlayerProperties::currentLevel},
 };
 
 /// Maximum health or armour by track level; a level outside 1 to 5 (from a save written by hand)
@@ -93,24 +104,14 @@ std::string_view PlayerProperties::titleOfLevel(int level) {
     return found == std::end(upgrades) ? std::string_view{} : found->title;
 }
 
-void PlayerProperties::saveState(TiXmlElement& node) const {
-    xml::writeInt(node, "cash", cash);
-    xml::writeInt(node, "swarmlevel", swarmLevel);
-    xml::writeInt(node, "healthlevel", healthLevel);
-    xml::writeInt(node, "armourlevel", armourLevel);
-    xml::writeInt(node, "maxhealth", maxHealth);
-    xml::writeInt(node, "maxarmour", maxArmour);
-    xml::writeInt(node, "currentlevel", currentLevel);
+void PlayerProperties::saveState(TiXmlElement& node, Digits /*digits*/) const {
+    for (const auto& [name, number] : savedNumbers)
+        xml::writeInt(node, name, this->*number);
 }
 
-void PlayerProperties::loadState(const TiXmlElement& node) {
-    cash = xml::readInt(node, "cash");
-    swarmLevel = xml::readInt(node, "swarmlevel");
-    healthLevel = xml::readInt(node, "healthlevel");
-    armourLevel = xml::readInt(node, "armourlevel");
-    maxHealth = xml::readInt(node, "maxhealth");
-    maxArmour = xml::readInt(node, "maxarmour");
-    currentLevel = xml::readInt(node, "currentlevel");
+void PlayerProperties::loadState(const TiXmlElement& node, Digits /*digits*/) {
+    for (const auto& [name, number] : savedNumbers)
+        this->*number = xml::readInt(node, name);
     upgradePending = false;
     upgradeMessage.clear();
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Digits.h"
+
 #include <span>
 #include <string>
 #include <string_view>
@@ -51,8 +53,9 @@ struct PlayerProperties {
     /// By rising cash.
     [[nodiscard]] static std::span<const UpgradeInfo> levels();
 
-    void saveState(TiXmlElement& node) const;
-    void loadState(const TiXmlElement& node);
+    void saveState(TiXmlElement& node, Digits digits) const;
+    void loadState(const TiXmlElement& node, Digits digits);
+    void dumpState(TiXmlElement& node) const { saveState(node, Digits::usual); }
 };
 
 }  // namespace bc

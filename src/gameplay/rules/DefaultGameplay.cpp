@@ -46,7 +46,7 @@ void readClock(const TiXmlElement& node, const char* name, BasicTimer& clock) {
     std::vector<std::string> fields;
     tokenise(",", xml::readString(node, name), fields);
     if (fields.size() >= fieldCount)
-        xml::readValue(node, name, clock);
+        xml::readValue(node, name, clock, Digits::exact);
 }
 
 BasicTimer& levelClock() {
@@ -55,8 +55,7 @@ BasicTimer& levelClock() {
 
 }  // namespace
 
-DefaultGameplay::DefaultGameplay(std::span<const GameBodyType> enemyTypes)
-    : enemyTypes_(enemyTypes), hud_(std::make_unique<GameHUD>()) {}
+DefaultGameplay::DefaultGameplay() : hud_(std::make_unique<GameHUD>()) {}
 
 DefaultGameplay::~DefaultGameplay() {
     if (GameplaySingleton::exists() && GameplaySingleton::instance().rules == this)
@@ -70,7 +69,7 @@ bool DefaultGameplay::init(std::unique_ptr<GameResourceBundle> bundle) {
     hud_->setRenderer(bundle->renderer);
     hud_->build();
     hud_->resize(screenWidth_, screenHeight_);
-    factory_ = std::make_unique<GameBodyFactory>(enemyTypes_);
+    factory_ = std::make_unique<GameBodyFactory>();
     factory_->registerDefaults();
     GameplaySingleton& singleton = GameplaySingleton::instance();
     singleton.resources = std::move(bundle);
@@ -246,9 +245,9 @@ void DefaultGameplay::setScreenSize(int width, int height) {
 }
 
 void DefaultGameplay::saveGameplayState(TiXmlElement& node) {
-    xml::writeValue(node, "timer", levelClock());
+    xml::writeValue(node, "timer", levelClock(), Digits::exact);
     xml::writeBool(node, "raceactive", race_.isActive());
-    xml::writeValue(node, "racetimer", race_.clock());
+    xml::writeValue(node, "racetimer", race_.clock(), Digits::exact);
 }
 
 void DefaultGameplay::loadGameplayState(const TiXmlElement& node) {

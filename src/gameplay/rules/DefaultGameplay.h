@@ -7,7 +7,6 @@
 #include "ports/IGameplay.h"
 
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -15,15 +14,12 @@ namespace bc {
 
 class GameHUD;
 class GameVar;
-struct GameBodyType;
 
 /// The rules of play: level start and end, the step of every body, spawn points, the level and race
 /// clocks, the gib budget and the developer commands. One exists, owned by the application.
 class DefaultGameplay final : public IGameplay, public Rules {
   public:
-    /// enemyTypes: the body types of the floor above, registered in their place among the game's
-    /// own (GameBodyFactory). The span must outlive the controller.
-    explicit DefaultGameplay(std::span<const GameBodyType> enemyTypes = {});
+    DefaultGameplay();
     ~DefaultGameplay() override;
 
     bool init(std::unique_ptr<GameResourceBundle> bundle) override;
@@ -64,7 +60,6 @@ class DefaultGameplay final : public IGameplay, public Rules {
     void carryPlayerOver();
     void placePlayer(class Player& player, const std::string& spawnName);
 
-    std::span<const GameBodyType> enemyTypes_;
     std::unique_ptr<GameBodyFactory> factory_;
     std::unique_ptr<GameHUD> hud_;
     std::vector<SpawnPoint*> spawnPoints_;

@@ -9,10 +9,8 @@
 #include "gameplay/actors/SoundIds.h"
 #include "gameplay/actors/Spawning.h"
 #include "gameplay/weapons/GrappleHolder.h"
-#include "resources/XmlAttributes.h"
+#include "world/BodyFields.h"
 #include "world/World.h"
-
-#include <tinyxml.h>
 
 namespace bc {
 
@@ -32,8 +30,10 @@ GrappleProjectile::GrappleProjectile() {
     GrappleProjectile::renew();
 }
 
-std::unique_ptr<Body> GrappleProjectile::create() const {
-    return std::make_unique<GrappleProjectile>();
+void GrappleProjectile::fields(BodyFields& f) {
+    Projectile::fields(f);
+    f.shown("holding", holding);
+    f.shown("pullspeed", pullSpeed);
 }
 
 void GrappleProjectile::renew() {
@@ -95,12 +95,6 @@ void GrappleProjectile::onThink(float dt) {
         return;
     const Vector towards(pos.x - player->pos.x, pos.y - player->pos.y);
     player->vel = normalised(towards) * (towards.length() > nearDistance ? pullSpeed : nearSpeed);
-}
-
-void GrappleProjectile::dumpState(TiXmlElement& debug) const {
-    Projectile::dumpState(debug);
-    xml::writeBool(debug, "holding", holding);
-    xml::writeFloat(debug, "pullspeed", pullSpeed);
 }
 
 }  // namespace bc

@@ -3,22 +3,22 @@
 #pragma once
 
 #include "gameplay/weapons/Projectile.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// The hook of the grapple (type "grappleprojectile"): flies until it touches something solid, then
 /// holds there and pulls the player towards it. Saves leave it out.
-class GrappleProjectile final : public Projectile {
+class GrappleProjectile final : public Creatable<GrappleProjectile, Projectile> {
   public:
     GrappleProjectile();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void renew() override;
     void onThink(float dt) override;
     void onTouch(const TouchInfo& touch) override;
     [[nodiscard]] bool acceptsCollision(const Body& other) const override;
     [[nodiscard]] bool keptInSaves() const override { return false; }
-    void dumpState(TiXmlElement& debug) const override;
 
     /// Units a second.
     float pullSpeed = 600;

@@ -5,9 +5,7 @@
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "gameplay/actors/Gib.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
@@ -31,8 +29,9 @@ GrenadeProjectile::GrenadeProjectile() {
     GrenadeProjectile::renew();
 }
 
-std::unique_ptr<Body> GrenadeProjectile::create() const {
-    return std::make_unique<GrenadeProjectile>();
+void GrenadeProjectile::fields(BodyFields& f) {
+    Projectile::fields(f);
+    f.saved("nextbouncesound", nextBounceSound);
 }
 
 void GrenadeProjectile::renew() {
@@ -79,16 +78,6 @@ void GrenadeProjectile::onTouch(const TouchInfo& touch) {
         return;
     if (acceptsCollision(other) && other.acceptsCollision(*this))
         explode();
-}
-
-void GrenadeProjectile::loadState(const TiXmlElement& e) {
-    Projectile::loadState(e);
-    nextBounceSound = xml::readFloat(e, "nextbouncesound");
-}
-
-void GrenadeProjectile::saveState(TiXmlElement& e) const {
-    Projectile::saveState(e);
-    xml::writeFloat(e, "nextbouncesound", nextBounceSound);
 }
 
 }  // namespace bc

@@ -8,6 +8,7 @@
 #include "gameplay/actors/Spawning.h"
 #include "gameplay/weapons/GrenadeProjectile.h"
 #include "gameplay/weapons/InstantShot.h"
+#include "gameplay/weapons/PlasmaPistolProjectile.h"
 #include "gameplay/weapons/RocketProjectile.h"
 #include "gameplay/weapons/WeaponDefinitions.h"
 #include "resources/XmlAttributes.h"

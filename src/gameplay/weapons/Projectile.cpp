@@ -8,9 +8,7 @@
 #include "gameplay/actors/RadiusDamage.h"
 #include "gameplay/actors/Truncate.h"
 #include "particles/ParticleManager.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
@@ -26,8 +24,19 @@ Projectile::Projectile() {
     Projectile::renew();
 }
 
-std::unique_ptr<Body> Projectile::create() const {
-    return std::make_unique<Projectile>();
+void Projectile::fields(BodyFields& f) {
+    PooledBody::fields(f);
+    // What a save leaves out stays as the class has it.
+    f.kept("speed", speed, speed);
+    f.kept("damage", damage, damage);
+    f.kept("blastradius", blastRadius, blastRadius);
+    f.kept("knockback", knockback, knockback);
+    f.kept("lifetime", lifetime, lifetime);
+    f.kept("fusetime", fuseTime, unknown);
+    f.kept("exploded", exploded);
+    f.kept("damagetype", damageType, damageType);
+    f.kept("noflash", noFlash);
+    f.kept("direction", direction);
 }
 
 void Projectile::renew() {
@@ -88,55 +97,6 @@ void Projectile::onBeforeTargets() {
     // Only now the clock is the one of the saved level.
     if (fuseTime == unknown)
         fuseTime = levelTime() + lifetime;
-}
-
-void Projectile::loadState(const TiXmlElement& e) {
-    PooledBody::loadState(e);
-    // What a save leaves out stays as the class has it.
-    const auto readFloat = [&e](const char* name, float& value) {
-        if (xml::has(e, name))
-            value = xml::readFloat(e, name);
-    };
-    readFloat("speed", speed);
-    readFloat("damage", damage);
-    readFloat("blastradius", blastRadius);
-    readFloat("knockback", knockback);
-    readFloat("lifetime", lifetime);
-    fuseTime = unknown;
-    readFloat("fusetime", fuseTime);
-    exploded = xml::readBool(e, "exploded");
-    if (xml::has(e, "damagetype"))
-        damageType = xml::readInt(e, "damagetype");
-    noFlash = xml::readBool(e, "noflash");
-    xml::readValue(e, "direction", direction);
-}
-
-void Projectile::saveState(TiXmlElement& e) const {
-    PooledBody::saveState(e);
-    xml::writeFloat(e, "speed", speed);
-    xml::writeFloat(e, "damage", damage);
-    xml::writeFloat(e, "blastradius", blastRadius);
-    xml::writeFloat(e, "knockback", knockback);
-    xml::writeFloat(e, "lifetime", lifetime);
-    xml::writeFloat(e, "fusetime", fuseTime);
-    xml::writeBool(e, "exploded", exploded);
-    xml::writeInt(e, "damagetype", damageType);
-    xml::writeBool(e, "noflash", noFlash);
-    xml::writeValue(e, "direction", direction);
-}
-
-void Projectile::dumpState(TiXmlElement& debug) const {
-    PooledBody::dumpState(debug);
-    xml::writeFloat(debug, "speed", speed);
-    xml::writeFloat(debug, "damage", damage);
-    xml::writeFloat(debug, "blastradius", blastRadius);
-    xml::writeFloat(debug, "knockback", knockback);
-    xml::writeFloat(debug, "lifetime", lifetime);
-    xml::writeFloat(debug, "fusetime", fuseTime);
-    xml::writeBool(debug, "exploded", exploded);
-    xml::writeInt(debug, "damagetype", damageType);
-    xml::writeBool(debug, "noflash", noFlash);
-    xml::writeValue(debug, "direction", direction);
 }
 
 }  // namespace bc

@@ -3,20 +3,18 @@
 #pragma once
 
 #include "gameplay/actors/BodyPool.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// What a launcher fires: flies until it touches something or its fuse is over, and then explodes.
 /// A dynamic object that saves keep, with its owner, who is not hurt by the blast.
-class Projectile : public PooledBody {
+class Projectile : public Creatable<Projectile, PooledBody> {
   public:
     Projectile();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void renew() override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
     /// Once in flight: the trail behind it and whatever else follows it.
     virtual void attachEffects() {}
     void onRestored() override { attachEffects(); }

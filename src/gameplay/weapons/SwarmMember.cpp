@@ -7,9 +7,7 @@
 #include "gameplay/actors/Pursuit.h"
 #include "gameplay/actors/Sight.h"
 #include "gameplay/actors/Spawning.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
@@ -65,8 +63,14 @@ SwarmMember::SwarmMember() {
     weapon.enemyWeapon = true;
 }
 
-std::unique_ptr<Body> SwarmMember::create() const {
-    return std::make_unique<SwarmMember>();
+void SwarmMember::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.kept("lifetime", lifetime);
+    f.saved("nextfiretime", weapon.nextFireTime);
+    // The player, whose level it was released with, is read later.
+    f.saved("weapondamage", weapon.damage, strengthOf(playersSwarmLevel()).damage);
+    f.shown("deathtime", deathTime);
+    f.shownPart(weapon);
 }
 
 void SwarmMember::makeDefaultShape() {
@@ -120,32 +124,6 @@ void SwarmMember::followPlayer() {
     const float away = distance(pos, player->pos);
     if (away > playerDistance && away < sightRange)
         approach(*this, *player, pursuitSpeed, pursuitSpeed);
-}
-
-void SwarmMember::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    lifetime = xml::readFloat(e, "lifetime");
-    weapon.nextFireTime = xml::readFloat(e, "nextfiretime");
-    // The player, whose level it was released with, is read later.
-    if (xml::has(e, "weapondamage"))
-        weapon.damage = xml::readInt(e, "weapondamage");
-    else
-        weapon.damage = strengthOf(playersSwarmLevel()).damage;
-}
-
-void SwarmMember::saveState(TiXmlElement& e) const {
-    // The time of its death is among what every game body saves.
-    GameBody::saveState(e);
-    xml::writeFloat(e, "lifetime", lifetime);
-    xml::writeFloat(e, "nextfiretime", weapon.nextFireTime);
-    xml::writeInt(e, "weapondamage", weapon.damage);
-}
-
-void SwarmMember::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeFloat(debug, "lifetime", lifetime);
-    xml::writeFloat(debug, "deathtime", deathTime);
-    weapon.dumpState(debug);
 }
 
 }  // namespace bc

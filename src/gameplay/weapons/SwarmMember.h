@@ -4,25 +4,23 @@
 
 #include "gameplay/actors/GameBody.h"
 #include "gameplay/weapons/MeleeWeapon.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// One of the swarm that the player releases (type "swarmmember"): hunts the enemies around for a
 /// quarter of a minute, and keeps near the player while there are none.
-class SwarmMember final : public GameBody {
+class SwarmMember final : public Creatable<SwarmMember, GameBody> {
   public:
     /// Upgrade levels of the swarm.
     static constexpr int levels = 5;
 
     SwarmMember();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void makeDefaultShape() override;
     [[nodiscard]] bool seesPastPlayer() const override { return true; }
     void onThink(float dt) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// The weapon's damage and the health that go with the player's swarm level.
     virtual void applySwarmLevel();

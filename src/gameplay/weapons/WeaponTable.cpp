@@ -62,6 +62,22 @@ std::span<const AmmoMapping> ammoTable() {
     return ammunition;
 }
 
+std::vector<std::string_view> weaponNames() {
+    std::vector<std::string_view> names;
+    for (const WeaponMapping& m : weapons)
+        if (m.weaponId <= weapon::lastFiring)
+            names.push_back(m.name);
+    return names;
+}
+
+std::vector<std::string_view> ammoNames() {
+    std::vector<std::string_view> names;
+    for (const AmmoMapping& m : ammunition)
+        if (m.maximum > 0)
+            names.push_back(m.name);
+    return names;
+}
+
 int weaponIdOf(std::string_view name) {
     const auto* m = find(weapons, [&](const WeaponMapping& w) { return w.name == name; });
     return m != nullptr ? m->weaponId : -1;

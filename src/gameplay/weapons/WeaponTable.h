@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace bc {
 
@@ -50,6 +51,11 @@ struct AmmoMapping {
 /// In the order of their ids.
 [[nodiscard]] std::span<const WeaponMapping> weaponTable();
 [[nodiscard]] std::span<const AmmoMapping> ammoTable();
+
+/// Names of what levels can hold as a pickup or name as one: the weapons that fire, and the
+/// ammunition of those that need any.
+[[nodiscard]] std::vector<std::string_view> weaponNames();
+[[nodiscard]] std::vector<std::string_view> ammoNames();
 
 /// -1 for a name that is not in the table.
 [[nodiscard]] int weaponIdOf(std::string_view name);

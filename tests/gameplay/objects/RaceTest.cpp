@@ -1,6 +1,11 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-#include "gameplay/objects/race/RaceBodies.h"
+#include "gameplay/objects/race/RaceBlock.h"
+#include "gameplay/objects/race/RaceCheckpoint.h"
+#include "gameplay/objects/race/RaceEnd.h"
+#include "gameplay/objects/race/RaceEndBlock.h"
+#include "gameplay/objects/race/RaceReset.h"
+#include "gameplay/objects/race/RaceStart.h"
 #include "support/PlayFixture.h"
 #include "world/TouchInfo.h"
 

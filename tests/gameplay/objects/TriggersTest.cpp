@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/actors/SoundIds.h"
 #include "gameplay/objects/movers/AlphaDoor.h"
+#include "gameplay/objects/movers/Battery.h"
 #include "gameplay/objects/movers/Door.h"
+#include "gameplay/objects/triggers/BatterySlot.h"
 #include "gameplay/objects/triggers/Checkpoint.h"
-#include "gameplay/objects/triggers/MessageBody.h"
+#include "gameplay/objects/triggers/MessengerBody.h"
 #include "gameplay/objects/triggers/Switch.h"
 #include "gameplay/objects/triggers/TargetGroup.h"
-#include "gameplay/objects/triggers/Trigger.h"
 #include "support/PlayFixture.h"
 #include "world/TouchInfo.h"
 

@@ -240,7 +240,7 @@ TEST_F(InventoryTest, HostileSavesLeaveAnInventory) {
         "<weapons w3='1' w99='1' w='1' x-5='1'/>"
         "<ammo a3='7' a1='-1' a1000000='5' a99999999999='1' a-1='3'/>"
         "<delays w11='1e30' w2='100'/></inventory></Player>");
-    bag().loadState(*document.RootElement());
+    bag().loadState(*document.RootElement(), Digits::exact);
     EXPECT_EQ(bag().activeWeapon(), weapon::pistol);
     EXPECT_EQ(bag().ammo(3), 7);
     EXPECT_EQ(bag().ammo(4), 0);

@@ -69,9 +69,9 @@ TEST(PlayerPropertiesTest, ReadBackAsSaved) {
     p.checkUpgrade();
     p.setSwarmLevel(5);
     TiXmlElement node("Player");
-    p.saveState(node);
+    p.saveState(node, Digits::exact);
     PlayerProperties q;
-    q.loadState(node);
+    q.loadState(node, Digits::exact);
     EXPECT_EQ(q.cash, 260);
     EXPECT_EQ(q.currentLevel, 7);
     EXPECT_EQ(q.swarmLevel, 5);

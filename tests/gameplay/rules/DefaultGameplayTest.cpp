@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
 #include "gameplay/actors/GameCategories.h"
+#include "gameplay/objects/scenery/NamedPoint.h"
 #include "gameplay/objects/scenery/SpawnPoint.h"
 #include "gameplay/rules/DefaultGameplay.h"
 #include "gameplay/rules/GameBodyFactory.h"
@@ -28,37 +29,6 @@ class DefaultGameplayTest : public test::PlayFixture {
         startLevel(spawn);
     }
 };
-
-TEST_F(DefaultGameplayTest, TypesHaveNamesOfTheirOwnAndMakeTheirOwnKind) {
-    std::set<std::string> names;
-    for (const auto& table :
-         {GameBodyFactory::typesBeforeEnemies(), GameBodyFactory::typesAfterEnemies()})
-        for (const GameBodyType& row : table) {
-            EXPECT_TRUE(names.insert(std::string(row.name)).second) << row.name;
-            const auto body = gameplay->getFactory()->create(std::string(row.name));
-            EXPECT_EQ(body->type, row.name);
-            EXPECT_NE(dynamic_cast<GameBody*>(body.get()), nullptr) << row.name;
-        }
-    EXPECT_EQ(gameplay->createBody("nobody"), nullptr);
-    std::unique_ptr<Body> plain;
-    EXPECT_EQ(logOf([&] { plain = gameplay->getFactory()->create("nobody"); }),
-              "Defaulting to Body for: nobody\n");
-    EXPECT_EQ(dynamic_cast<GameBody*>(plain.get()), nullptr);
-}
-
-TEST_F(DefaultGameplayTest, EnemyTypesComeBetweenTheGamesOwn) {
-    const GameBodyType row{"tester", "SpawnPoint", makeBodyOf<SpawnPoint>};
-    GameBodyFactory factory(std::span(&row, 1));
-    factory.registerDefaults();
-    std::vector<std::string> order;
-    for (const auto& prototype : factory.prototypes())
-        order.push_back(prototype->type);
-    const auto placeOf = [&](const char* name) {
-        return std::find(order.begin(), order.end(), name) - order.begin();
-    };
-    EXPECT_EQ(placeOf("tester"), placeOf("plasmapistolprojectile") + 1);
-    EXPECT_EQ(placeOf("swarmmember"), placeOf("tester") + 1);
-}
 
 TEST_F(DefaultGameplayTest, PlacesThePlayerAtANamedOrTheStartPoint) {
     const Vector before = player->pos;

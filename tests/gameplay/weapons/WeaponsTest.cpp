@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/Text.h"
 #include "gameplay/actors/GameCategories.h"
-#include "gameplay/objects/scenery/Scenery.h"
+#include "gameplay/objects/scenery/Clip.h"
 #include "gameplay/weapons/GrappleProjectile.h"
 #include "gameplay/weapons/InstantWeapons.h"
 #include "gameplay/weapons/LauncherWeapons.h"

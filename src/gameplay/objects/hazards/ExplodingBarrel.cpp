@@ -5,11 +5,11 @@
 #include "gameplay/actors/Effects.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/RadiusDamage.h"
+#include "world/BodyFields.h"
 
 namespace bc {
 
 ExplodingBarrel::ExplodingBarrel() {
-    type = "explodingbarrel";
     texture = "data/images/explodingbarrel.png";
     textured = true;
     clampTexture = true;
@@ -20,8 +20,15 @@ ExplodingBarrel::ExplodingBarrel() {
     defaultHeight = 24;
 }
 
-std::unique_ptr<Body> ExplodingBarrel::create() const {
-    return std::make_unique<ExplodingBarrel>();
+void ExplodingBarrel::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level()
+        .box(16, 24)
+        .with("entity", "true")
+        .with("mass", "50")
+        .with("solid", "true")
+        .with("texture", texture)
+        .with("texmap", "fit");
 }
 
 void ExplodingBarrel::die() {

@@ -3,12 +3,13 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Goes up when it is shot, each time it has a life to lose, and takes what stands around with it
 /// (type "explodingbarrel").
-class ExplodingBarrel final : public GameBody {
+class ExplodingBarrel final : public Creatable<ExplodingBarrel, GameBody> {
   public:
     // The blast: world units, factor of the usual push, damage before difficulty.
     static constexpr float blastRadius = 32;
@@ -16,8 +17,8 @@ class ExplodingBarrel final : public GameBody {
     static constexpr int blastDamage = 50;
 
     ExplodingBarrel();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void die() override;
 
   private:

@@ -14,6 +14,8 @@ class SurfaceWave {
     /// Moves on, at most once for each level time (ms); dt is the frame in seconds. The result is
     /// the phase in radians.
     float advance(float levelTimeMs, float dt);
+    /// The same for this moment of the level.
+    float now();
 
   private:
     static constexpr float unset = -20;
@@ -32,30 +34,6 @@ class Liquid : public GameBody {
 
     void onTouch(const TouchInfo& info) override;
     [[nodiscard]] bool hasTextureTransform() const override { return true; }
-};
-
-/// With a splash for what falls in (type "water").
-class Water final : public Liquid {
-  public:
-    Water();
-
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void onTouch(const TouchInfo& info) override;
-    void textureTransform(TextureTransform& transform) override;
-};
-
-/// Burns (type "lava").
-class Lava final : public Liquid {
-  public:
-    /// Damage of one contact, and milliseconds until the next one hurts.
-    static constexpr int burn = 10;
-    static constexpr float burnInterval = 200;
-
-    Lava();
-
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void onTouch(const TouchInfo& info) override;
-    void textureTransform(TextureTransform& transform) override;
 };
 
 }  // namespace bc

@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/hazards/PainBody.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
-#include "resources/XmlAttributes.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
-
-#include <tinyxml.h>
 
 #include <cmath>
 
@@ -22,23 +19,23 @@ constexpr float driftTime = 3000;
 }  // namespace
 
 PainBody::PainBody() {
-    type = "painbody";
     thinks = true;
     solid = false;
     showDamage = false;
     flags.set(bodyflag::untouchable);
 }
 
-std::unique_ptr<Body> PainBody::create() const {
-    return std::make_unique<PainBody>();
-}
-
-void PainBody::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("on", on);
-    given.read("pain", pain);
-    given.read("reverttimer", revertTimer);
+void PainBody::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().with("entity", "true").with("texture", "data/images/painfield.png");
+    f.param("on", on, "On at first.").inLevels("true");
+    f.param("pain", pain, "Damage.").inLevels("5");
+    f.param("reverttimer", revertTimer, "After being triggered, until it turns back; 0 stays.");
+    f.shown("on", on);
+    f.saved("wastriggered", triggered);
+    f.shown("triggered", triggered);
+    f.kept("reverttime", revertAt);
+    f.saved("on", on, on);
 }
 
 void PainBody::onTouch(const TouchInfo& info) {
@@ -67,28 +64,6 @@ void PainBody::onThink(float /*dt*/) {
 void PainBody::textureTransform(TextureTransform& transform) {
     // v grows upwards, so that the look-up has to go down.
     transform.offsetY = -std::fmod(levelTime(), driftTime) / driftTime;
-}
-
-void PainBody::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    triggered = xml::readBool(e, "wastriggered");
-    revertAt = xml::readFloat(e, "reverttime");
-    if (xml::has(e, "on"))
-        on = xml::readBool(e, "on");
-}
-
-void PainBody::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeBool(e, "wastriggered", triggered);
-    xml::writeFloat(e, "reverttime", revertAt);
-    xml::writeBool(e, "on", on);
-}
-
-void PainBody::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "on", on);
-    xml::writeBool(debug, "triggered", triggered);
-    xml::writeFloat(debug, "reverttime", revertAt);
 }
 
 }  // namespace bc

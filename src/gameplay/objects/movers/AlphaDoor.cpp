@@ -2,23 +2,33 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/movers/AlphaDoor.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameplaySingleton.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
 AlphaDoor::AlphaDoor() {
-    type = "alphadoor";
     thinks = true;
     thinkInterval = 100;
     showDamage = false;
 }
 
-std::unique_ptr<Body> AlphaDoor::create() const {
-    return std::make_unique<AlphaDoor>();
+void AlphaDoor::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level()
+        .with("solid", "true")
+        .with("entity", "true")
+        .with("texture", "data/images/alphadoor.png")
+        .with("texmap", "fit");
+    f.param("timeopen", timeOpen, "Until it turns back.").inLevels("3000");
+    f.param("startopen", startOpen, "Open at first.");
+    f.param("triggeronce", triggerOnce, "Stays as it is after the first time.");
+    f.shown("isopen", isOpen);
+    f.kept("triggered", triggered);
+    f.saved("isopen", isOpen);
+    f.saved("timeopen", timeOpen, timeOpen);
+    f.saved("reverttime", closeAt);
+    f.shown("closeat", closeAt);
 }
 
 void AlphaDoor::apply() {
@@ -55,38 +65,6 @@ void AlphaDoor::onThink(float /*dt*/) {
         return;
     triggered = false;
     toggle();
-}
-
-void AlphaDoor::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("timeopen", timeOpen);
-    given.read("startopen", startOpen);
-    given.read("triggeronce", triggerOnce);
-}
-
-void AlphaDoor::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    triggered = xml::readBool(e, "triggered");
-    isOpen = xml::readBool(e, "isopen");
-    if (xml::has(e, "timeopen"))
-        timeOpen = xml::readFloat(e, "timeopen");
-    closeAt = xml::readFloat(e, "reverttime");
-}
-
-void AlphaDoor::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeBool(e, "triggered", triggered);
-    xml::writeBool(e, "isopen", isOpen);
-    xml::writeFloat(e, "timeopen", timeOpen);
-    xml::writeFloat(e, "reverttime", closeAt);
-}
-
-void AlphaDoor::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "isopen", isOpen);
-    xml::writeBool(debug, "triggered", triggered);
-    xml::writeFloat(debug, "closeat", closeAt);
 }
 
 }  // namespace bc

@@ -3,25 +3,22 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Vanishes when something sets it off, and is back after a time (type "alphadoor").
-class AlphaDoor final : public GameBody {
+class AlphaDoor final : public Creatable<AlphaDoor, GameBody> {
   public:
     AlphaDoor();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onSpawned() override;
     void onRestored() override;
     void onTriggered(GameBody* activator) override;
     [[nodiscard]] bool blocksSight() const override { return true; }
     [[nodiscard]] bool bouncesGrenades() const override { return true; }
     void onThink(float dt) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// Milliseconds.
     float timeOpen = 0;

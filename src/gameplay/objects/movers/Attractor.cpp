@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/movers/Attractor.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "gameplay/actors/ScratchLists.h"
 #include "particles/ParticleManager.h"
+#include "world/BodyFields.h"
 #include "world/World.h"
 
 namespace bc {
 
 Attractor::Attractor() {
-    type = "attractor";
     thinks = true;
     thinkInterval = 100;
     solid = false;
@@ -21,15 +20,14 @@ Attractor::Attractor() {
     flags.set(bodyflag::untouchable);
 }
 
-std::unique_ptr<Body> Attractor::create() const {
-    return std::make_unique<Attractor>();
-}
-
-void Attractor::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("force", force);
-    given.read("radius", reach);
+void Attractor::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level()
+        .with("entity", "true")
+        .with("texture", "data/images/attractor.png")
+        .with("texmap", "fit");
+    f.param("force", force, "Velocity that it adds each 100 ms; negative pushes.").inLevels("20");
+    f.param("radius", reach, "How far it reaches.").inLevels("160");
 }
 
 void Attractor::onLoaded() {

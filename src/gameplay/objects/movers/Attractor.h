@@ -3,18 +3,18 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Pulls what is around it, ten times a second (type "attractor").
-class Attractor final : public GameBody {
+class Attractor final : public Creatable<Attractor, GameBody> {
   public:
     Attractor();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onLoaded() override;
     void onThink(float dt) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
 
     /// Speed added at each pull (units a second); negative pushes away.
     float force = 0;

@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/movers/Door.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "gameplay/actors/Spawning.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
@@ -26,7 +23,6 @@ void hold(float& place, float end, bool upwards) {
 }  // namespace
 
 Door::Door() {
-    type = "door";
     thinks = true;
     thinkInterval = 100;
     gravitymultiplier = 0;
@@ -35,8 +31,26 @@ Door::Door() {
     showDamage = false;
 }
 
-std::unique_ptr<Body> Door::create() const {
-    return std::make_unique<Door>();
+void Door::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level()
+        .with("solid", "true")
+        .with("entity", "true")
+        .with("texture", "data/images/door.png")
+        .with("texmap", "fit");
+    f.param("openoffset", offset, "Way from closed to open, y upwards.").required();
+    f.param("timeopen", timeOpen, "Until it closes again; 0 stays open.").inLevels("3000");
+    f.param("speed", speed, "Units a second.").inLevels("120");
+    f.saved("startpoint", startPoint);
+    f.saved("targetpos", targetPos);
+    f.saved("closetime", closeTime);
+    f.saved("speed", speed, speed);
+    f.kept("isopen", isOpen);
+    f.kept("isopening", isOpening);
+    f.kept("isclosing", isClosing);
+    f.saved("xdirection", xDirection);
+    f.saved("ydirection", yDirection);
+    f.shown("closetime", closeTime);
 }
 
 void Door::onSpawned() {
@@ -97,49 +111,6 @@ void Door::update(float dt) {
 
 bool Door::acceptsCollision(const Body& other) const {
     return other.category != category::clip;
-}
-
-void Door::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("openoffset", offset);
-    given.read("timeopen", timeOpen);
-    given.read("speed", speed);
-}
-
-void Door::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    xml::readValue(e, "startpoint", startPoint);
-    xml::readValue(e, "targetpos", targetPos);
-    closeTime = xml::readFloat(e, "closetime");
-    if (xml::has(e, "speed"))
-        speed = xml::readFloat(e, "speed");
-    isOpen = xml::readBool(e, "isopen");
-    isOpening = xml::readBool(e, "isopening");
-    isClosing = xml::readBool(e, "isclosing");
-    xDirection = xml::readBool(e, "xdirection");
-    yDirection = xml::readBool(e, "ydirection");
-}
-
-void Door::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeValue(e, "startpoint", startPoint);
-    xml::writeValue(e, "targetpos", targetPos);
-    xml::writeFloat(e, "closetime", closeTime);
-    xml::writeFloat(e, "speed", speed);
-    xml::writeBool(e, "isopen", isOpen);
-    xml::writeBool(e, "isopening", isOpening);
-    xml::writeBool(e, "isclosing", isClosing);
-    xml::writeBool(e, "xdirection", xDirection);
-    xml::writeBool(e, "ydirection", yDirection);
-}
-
-void Door::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "isopen", isOpen);
-    xml::writeBool(debug, "isopening", isOpening);
-    xml::writeBool(debug, "isclosing", isClosing);
-    xml::writeFloat(debug, "closetime", closeTime);
 }
 
 }  // namespace bc

@@ -3,15 +3,16 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Slides away when something sets it off, and back after a time (type "door").
-class Door final : public GameBody {
+class Door final : public Creatable<Door, GameBody> {
   public:
     Door();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onSpawned() override;
     void onTriggered(GameBody* activator) override;
     void onThink(float dt) override;
@@ -19,10 +20,6 @@ class Door final : public GameBody {
     [[nodiscard]] bool acceptsCollision(const Body& other) const override;
     [[nodiscard]] bool blocksSight() const override { return true; }
     [[nodiscard]] bool bouncesGrenades() const override { return true; }
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     Vector startPoint;
     Vector targetPos;

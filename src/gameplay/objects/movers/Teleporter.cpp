@@ -2,32 +2,27 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/movers/Teleporter.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/Effects.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/SoundIds.h"
 #include "gameplay/actors/Spawning.h"
 #include "particles/ParticleManager.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
 
 namespace bc {
 
 Teleporter::Teleporter() {
-    type = "teleporter";
     solid = false;
     showDamage = false;
     flags.set(bodyflag::untouchable);
 }
 
-std::unique_ptr<Body> Teleporter::create() const {
-    return std::make_unique<Teleporter>();
-}
-
-void Teleporter::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("changevelocity", changeVelocity);
-    given.read("exitvelocity", exitVelocity);
+void Teleporter::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().box(32, 32).with("texture", "data/images/teleporter.png").with("texmap", "fit");
+    f.param("changevelocity", changeVelocity, "Sets the velocity as well.");
+    f.param("exitvelocity", exitVelocity, "That velocity, y upwards.");
 }
 
 void Teleporter::onTouch(const TouchInfo& info) {
@@ -42,23 +37,6 @@ void Teleporter::onTouch(const TouchInfo& info) {
         traveller.vel = exitVelocity;
     playSoundAt(sound::teleport, pos);
     playSoundAt(sound::teleport, exit);
-}
-
-TeleporterVisual::TeleporterVisual() {
-    type = "teleportervisual";
-    visible = false;
-    solid = false;
-    showDamage = false;
-    flags.set(bodyflag::untouchable);
-}
-
-std::unique_ptr<Body> TeleporterVisual::create() const {
-    return std::make_unique<TeleporterVisual>();
-}
-
-void TeleporterVisual::onLoaded() {
-    GameBody::onLoaded();
-    startParticles("teleporter", pos);
 }
 
 }  // namespace bc

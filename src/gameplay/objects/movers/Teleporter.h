@@ -3,30 +3,21 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Moves whatever touches it to its first target (type "teleporter").
-class Teleporter final : public GameBody {
+class Teleporter final : public Creatable<Teleporter, GameBody> {
   public:
     Teleporter();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onTouch(const TouchInfo& info) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
 
     /// What comes through leaves with exitVelocity instead of its own.
     bool changeVelocity = false;
     Vector exitVelocity;
-};
-
-/// The glow of a teleporter (type "teleportervisual").
-class TeleporterVisual final : public GameBody {
-  public:
-    TeleporterVisual();
-
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void onLoaded() override;
 };
 
 }  // namespace bc

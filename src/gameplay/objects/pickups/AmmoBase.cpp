@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/pickups/AmmoBase.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/SoundIds.h"
 #include "gameplay/player/Player.h"
 #include "gameplay/weapons/WeaponTable.h"
+#include "world/BodyFields.h"
 
 #include <algorithm>
 
@@ -16,15 +16,14 @@ AmmoBase::AmmoBase(const std::string& typeName) : ammoType(typeName) {
     texture = "data/images/" + typeName + ".png";
 }
 
-std::unique_ptr<Body> AmmoBase::create() const {
-    return std::make_unique<AmmoBase>(type);
+void AmmoBase::fields(BodyFields& f) {
+    RespawnableBody::fields(f);
+    f.param("ammotype", ammoType, "Ammunition that it gives.").choices("ammo", ammoNames());
+    f.param("ammo", ammo, "How much.");
 }
 
-void AmmoBase::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    RespawnableBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("ammo", ammo);
-    given.read("ammotype", ammoType);
+std::unique_ptr<Body> AmmoBase::create() const {
+    return std::make_unique<AmmoBase>(type);
 }
 
 bool AmmoBase::wanted(Player& player) const {

@@ -12,7 +12,7 @@ class AmmoBase final : public RespawnableBody {
     explicit AmmoBase(const std::string& typeName = "ammobase");
 
     [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
+    void fields(BodyFields& f) override;
 
     /// Rounds.
     int ammo = 10;

@@ -2,17 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/pickups/CashPickup.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/player/Player.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
 CashPickup::CashPickup() {
-    type = "cashpickup";
     texture = "data/images/cash.png";
     glowTexture = texture;
     hasGlow = true;
@@ -20,8 +16,11 @@ CashPickup::CashPickup() {
     canRespawn = false;
 }
 
-std::unique_ptr<Body> CashPickup::create() const {
-    return std::make_unique<CashPickup>();
+void CashPickup::fields(BodyFields& f) {
+    RespawnableBody::fields(f);
+    f.param("amount", amount, "Cash that it gives.").inLevels("1");
+    // What an enemy dropped stands in no level.
+    f.saved("amount", amount, amount);
 }
 
 bool CashPickup::acceptsCollision(const Body& other) const {
@@ -36,23 +35,6 @@ void CashPickup::give(Player& player) {
 
 void CashPickup::pickupFeedback() {
     floatText("Cash");
-}
-
-void CashPickup::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    RespawnableBody::applyAttributes(attributes);
-    Attributes(attributes).read("amount", amount);
-}
-
-void CashPickup::loadState(const TiXmlElement& e) {
-    RespawnableBody::loadState(e);
-    if (xml::has(e, "amount"))
-        amount = xml::readInt(e, "amount");
-}
-
-void CashPickup::saveState(TiXmlElement& e) const {
-    RespawnableBody::saveState(e);
-    // What an enemy dropped stands in no level.
-    xml::writeInt(e, "amount", amount);
 }
 
 }  // namespace bc

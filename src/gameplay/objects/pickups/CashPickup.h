@@ -3,18 +3,16 @@
 #pragma once
 
 #include "gameplay/objects/pickups/RespawnableBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Cash (type "cashpickup"), placed by a level or dropped by an enemy; collected once for good.
-class CashPickup final : public RespawnableBody {
+class CashPickup final : public Creatable<CashPickup, RespawnableBody> {
   public:
     CashPickup();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
     /// The player flies through it.
     [[nodiscard]] bool acceptsCollision(const Body& other) const override;
 

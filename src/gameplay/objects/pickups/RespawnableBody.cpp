@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/pickups/RespawnableBody.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/Effects.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "gameplay/player/Player.h"
-#include "resources/XmlAttributes.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
-
-#include <tinyxml.h>
 
 namespace bc {
 
@@ -23,7 +20,6 @@ constexpr float textScale = 0.75F;
 }  // namespace
 
 RespawnableBody::RespawnableBody() {
-    type = "respawnablebody";
     thinks = true;
     solid = false;
     outlined = false;
@@ -32,6 +28,15 @@ RespawnableBody::RespawnableBody() {
     showDamage = false;
     usesDefaultShape = true;
     flags.set(bodyflag::untouchable);
+}
+
+void RespawnableBody::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().with("entity", "true").with("texture", texture).with("texmap", "fit");
+    f.param("respawndelay", respawnDelay, "Until it comes back after it was collected.");
+    f.shown("available", isAvailable());
+    f.kept("nextrespawn", nextRespawn);
+    f.saved("available", visible, visible);
 }
 
 void RespawnableBody::onTouch(const TouchInfo& info) {
@@ -62,30 +67,6 @@ void RespawnableBody::announce(int soundId, std::string_view text) {
     playSoundAt(soundId, pos);
     showMessage(text);
     floatText(text);
-}
-
-void RespawnableBody::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    Attributes(attributes).read("respawndelay", respawnDelay);
-}
-
-void RespawnableBody::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    nextRespawn = xml::readFloat(e, "nextrespawn");
-    if (xml::has(e, "available"))
-        visible = xml::readBool(e, "available");
-}
-
-void RespawnableBody::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeFloat(e, "nextrespawn", nextRespawn);
-    xml::writeBool(e, "available", visible);
-}
-
-void RespawnableBody::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "available", isAvailable());
-    xml::writeFloat(debug, "nextrespawn", nextRespawn);
 }
 
 }  // namespace bc

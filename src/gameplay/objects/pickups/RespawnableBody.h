@@ -15,13 +15,10 @@ class Player;
 class RespawnableBody : public GameBody {
   public:
     RespawnableBody();
+    void fields(BodyFields& f) override;
 
     void onTouch(const TouchInfo& info) override;
     void onThink(float dt) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// Puts it back with the effect of something appearing.
     virtual void respawn();

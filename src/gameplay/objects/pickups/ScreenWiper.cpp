@@ -10,12 +10,7 @@
 namespace bc {
 
 ScreenWiper::ScreenWiper() {
-    type = "screenwiper";
     texture = "data/images/screenwiper.png";
-}
-
-std::unique_ptr<Body> ScreenWiper::create() const {
-    return std::make_unique<ScreenWiper>();
 }
 
 void ScreenWiper::give(Player&) {

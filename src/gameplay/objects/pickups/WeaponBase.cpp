@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/pickups/WeaponBase.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/SoundIds.h"
 #include "gameplay/player/Player.h"
 #include "gameplay/weapons/WeaponTable.h"
+#include "world/BodyFields.h"
 
 namespace bc {
 
@@ -15,15 +15,14 @@ WeaponBase::WeaponBase(const std::string& typeName) : weaponType(typeName) {
     defaultWidth = 32;
 }
 
-std::unique_ptr<Body> WeaponBase::create() const {
-    return std::make_unique<WeaponBase>(type);
+void WeaponBase::fields(BodyFields& f) {
+    RespawnableBody::fields(f);
+    f.param("weapontype", weaponType, "Weapon that it gives.").choices("weapon", weaponNames());
+    f.param("ammo", ammo, "Ammunition that comes with it.").inLevels("10");
 }
 
-void WeaponBase::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    RespawnableBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("ammo", ammo);
-    given.read("weapontype", weaponType);
+std::unique_ptr<Body> WeaponBase::create() const {
+    return std::make_unique<WeaponBase>(type);
 }
 
 void WeaponBase::onLoaded() {

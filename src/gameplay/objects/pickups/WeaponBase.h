@@ -13,7 +13,7 @@ class WeaponBase final : public RespawnableBody {
     explicit WeaponBase(const std::string& typeName = "weaponsbase");
 
     [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
+    void fields(BodyFields& f) override;
     void onLoaded() override;
 
     /// Rounds that come with it.

@@ -6,9 +6,7 @@
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "particles/ParticleManager.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
@@ -20,31 +18,31 @@ constexpr float fadeSeconds = 10;
 }  // namespace
 
 ParticleSystemBody::ParticleSystemBody() {
-    type = "particlesystembody";
     thinks = true;
     thinkInterval = 0;
     showDamage = false;
     flags.set(bodyflag::untouchable);
 }
 
+void ParticleSystemBody::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().box(16, 16).with("entity", "true").with("visible", "false");
+    f.param("systemid", systemId, "Name of the particle system.")
+        .kind(ParamKind::particle)
+        .required();
+    f.param("on", on, "On at first.").inLevels("true");
+    f.param("reverttimer", revertTimer,
+            "Seconds after being triggered until it turns back; 0 stays.");
+    f.shown("on", on);
+    f.saved("wastriggered", triggered);
+    f.shown("triggered", triggered);
+    f.kept("reverttime", revertAt);
+    f.saved("on", on, on);
+    f.shown("running", particleManager().find(runningSystem_) != nullptr);
+}
+
 ParticleSystemBody::~ParticleSystemBody() {
     stop(0);
-}
-
-std::unique_ptr<Body> ParticleSystemBody::create() const {
-    return std::make_unique<ParticleSystemBody>();
-}
-
-void ParticleSystemBody::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    for (const auto& [name, value] : attributes) {
-        if (equalsNoCase(name, "on"))
-            on = parseBool(value);
-        else if (equalsNoCase(name, "reverttimer"))
-            revertTimer = parseFloat(value);
-        else if (equalsNoCase(name, "systemid"))
-            systemId = value;
-    }
 }
 
 void ParticleSystemBody::onLoaded() {
@@ -86,29 +84,6 @@ void ParticleSystemBody::onThink(float /*dt*/) {
         return;
     triggered = false;
     flip();
-}
-
-void ParticleSystemBody::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    triggered = xml::readBool(e, "wastriggered");
-    revertAt = xml::readFloat(e, "reverttime");
-    if (xml::has(e, "on"))
-        on = xml::readBool(e, "on");
-}
-
-void ParticleSystemBody::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeBool(e, "wastriggered", triggered);
-    xml::writeFloat(e, "reverttime", revertAt);
-    xml::writeBool(e, "on", on);
-}
-
-void ParticleSystemBody::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "on", on);
-    xml::writeBool(debug, "triggered", triggered);
-    xml::writeFloat(debug, "reverttime", revertAt);
-    xml::writeBool(debug, "running", particleManager().find(runningSystem_) != nullptr);
 }
 
 }  // namespace bc

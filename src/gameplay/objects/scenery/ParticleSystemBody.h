@@ -3,23 +3,20 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// An effect that a level places and can switch on and off (type "particlesystembody").
-class ParticleSystemBody final : public GameBody {
+class ParticleSystemBody final : public Creatable<ParticleSystemBody, GameBody> {
   public:
     ParticleSystemBody();
+    void fields(BodyFields& f) override;
     ~ParticleSystemBody() override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
     void onLoaded() override;
     void onTriggered(GameBody* activator) override;
     void onThink(float dt) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     bool on = false;
     /// Seconds after which a switch is undone; 0 or less: it stays.

@@ -2,18 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/scenery/SoundBody.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "ports/ISound.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
 SoundBody::SoundBody() {
-    type = "soundbody";
     thinks = true;
     visible = false;
     solid = false;
@@ -21,23 +17,20 @@ SoundBody::SoundBody() {
     flags.set(bodyflag::untouchable);
 }
 
+void SoundBody::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().box(16, 16).with("entity", "true").with("visible", "false");
+    f.param("sound", sound, "File of the sound.").kind(ParamKind::sound).required();
+    f.param("volume", volume, "Percent.");
+    f.param("loops", loops, "Repetitions; -1 for ever.");
+    f.shown("playing", channel_ != none);
+}
+
 SoundBody::~SoundBody() {
     // A level's sounds end with it.
     ISound* output = GameplaySingleton::instance().sound();
     if (channel_ != none && output != nullptr)
         output->stopChannel(channel_);
-}
-
-std::unique_ptr<Body> SoundBody::create() const {
-    return std::make_unique<SoundBody>();
-}
-
-void SoundBody::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("sound", sound);
-    given.read("volume", volume);
-    given.read("loops", loops);
 }
 
 void SoundBody::onThink(float /*dt*/) {
@@ -52,11 +45,6 @@ void SoundBody::onThink(float /*dt*/) {
         output->stopChannel(channel_);
         channel_ = none;
     }
-}
-
-void SoundBody::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "playing", channel_ != none);
 }
 
 }  // namespace bc

@@ -3,22 +3,21 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// A sound that is heard near a place (type "soundbody").
-class SoundBody final : public GameBody {
+class SoundBody final : public Creatable<SoundBody, GameBody> {
   public:
     /// World units between the player and the body within which it plays.
     static constexpr float reach = 528;
 
     SoundBody();
+    void fields(BodyFields& f) override;
     ~SoundBody() override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onThink(float dt) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// File name of the sample.
     std::string sound;

@@ -8,9 +8,7 @@
 #include "gameplay/actors/Spawning.h"
 #include "ports/FontRenderer.h"
 #include "ports/IRenderer.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 #include <algorithm>
 
@@ -22,6 +20,7 @@ namespace {
 constexpr float floatSeconds = 2;
 constexpr float riseSpeed = 16;
 constexpr int maxFontSize = 512;
+constexpr std::string_view fonts[] = {"vera", "debug"};
 /// Width of a letter in font sizes, where there are no fonts to ask.
 constexpr float guessedLetter = 0.6F;
 
@@ -32,28 +31,28 @@ FontRenderer* fontsOf(IRenderer* renderer) {
 }  // namespace
 
 TextBody::TextBody() {
+    // Play makes them without the factory, too.
     type = "textbody";
     outlined = false;
     showDamage = false;
     flags.set(bodyflag::untouchable);
 }
 
-std::unique_ptr<Body> TextBody::create() const {
-    return std::make_unique<TextBody>();
-}
-
-void TextBody::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    for (const auto& [name, value] : attributes) {
-        if (equalsNoCase(name, "text"))
-            text = value;
-        else if (equalsNoCase(name, "font"))
-            font = value;
-        else if (equalsNoCase(name, "size"))
-            size = std::clamp(parseInt(value), 1, maxFontSize);
-        else if (equalsNoCase(name, "shadow"))
-            shadow = parseBool(value);
-    }
+void TextBody::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.param("text", text, "What it says.").required();
+    f.param("font", font, "Its font.").choices("font", fonts);
+    f.param(
+        "size", size, [this](int given) { size = std::clamp(given, 1, maxFontSize); }, "Its size.");
+    f.param("shadow", shadow, "With a shadow.").inLevels("true");
+    f.shown("text", text);
+    f.shown("font", font);
+    f.shown("size", size);
+    f.shown("shadow", shadow);
+    f.shown("scale", scale);
+    f.shown("anchor", pos + anchor_);
+    f.shown("floating", floating_);
+    f.shown("age", age_);
 }
 
 void TextBody::onLoaded() {
@@ -118,18 +117,6 @@ void TextBody::drawSelf(IRenderer& renderer) {
     renderer.setColour(255, 255, 255, alpha);
     fonts->drawText(x, y, z, text);
     fonts->setScale(1);
-}
-
-void TextBody::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeString(debug, "text", text);
-    xml::writeString(debug, "font", font);
-    xml::writeInt(debug, "size", size);
-    xml::writeBool(debug, "shadow", shadow);
-    xml::writeFloat(debug, "scale", scale);
-    xml::writeValue(debug, "anchor", pos + anchor_);
-    xml::writeBool(debug, "floating", floating_);
-    xml::writeFloat(debug, "age", age_);
 }
 
 }  // namespace bc

@@ -3,22 +3,21 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// A text in the world (type "textbody"), placed by a level or thrown up during play, which then
 /// rises, fades and goes by itself.
-class TextBody final : public GameBody {
+class TextBody final : public Creatable<TextBody, GameBody> {
   public:
     TextBody();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
     void onLoaded() override;
     void update(float dt) override;
     [[nodiscard]] bool drawsItself() const override { return true; }
     void drawSelf(IRenderer& renderer) override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// From now on it rises, fades and is gone after two seconds.
     void floatAway();

@@ -5,6 +5,7 @@
 #include "gameplay/actors/Effects.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "ports/IGame.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
 
 namespace bc {
@@ -15,12 +16,11 @@ constexpr int topCentre = 1;
 
 }  // namespace
 
-Checkpoint::Checkpoint() {
-    type = "checkpoint";
-}
+Checkpoint::Checkpoint() {}
 
-std::unique_ptr<Body> Checkpoint::create() const {
-    return std::make_unique<Checkpoint>();
+void Checkpoint::fields(BodyFields& f) {
+    TriggerBody::fields(f);
+    f.level().with("visible", "false").with("triggeronce", "true");
 }
 
 void Checkpoint::onTouch(const TouchInfo& info) {

@@ -3,16 +3,17 @@
 #pragma once
 
 #include "gameplay/objects/triggers/TriggerBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Asks for a save under the current name when the player touches it or something sets it off
 /// (type "checkpoint").
-class Checkpoint final : public TriggerBody {
+class Checkpoint final : public Creatable<Checkpoint, TriggerBody> {
   public:
     Checkpoint();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onTouch(const TouchInfo& info) override;
     /// Records here, without going to rest.
     void onTriggered(GameBody* activator) override;

@@ -3,13 +3,14 @@
 #include "gameplay/objects/triggers/LevelChange.h"
 
 #include "command/GameVar.h"
-#include "gameplay/actors/Attributes.h"
+#include "core/Text.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "gameplay/player/Player.h"
 #include "particles/ParticleManager.h"
 #include "ports/IGame.h"
 #include "resources/FileSystem.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
 
 namespace bc {
@@ -19,12 +20,10 @@ namespace {
 /// Milliseconds between two attempts at a level that cannot be loaded.
 constexpr float retryDelay = 2000;
 
-void readMapName(const Attributes& given, const char* name, std::string& out) {
-    std::string map;
-    given.read(name, map);
-    if (map.empty())
-        return;
-    out = map.find(".xml") == std::string::npos ? map + ".xml" : map;
+/// A map's name with its ending; an empty one changes nothing.
+void setMap(std::string& map, const std::string& given) {
+    if (!given.empty())
+        map = given.find(".xml") == std::string::npos ? given + ".xml" : given;
 }
 
 void recordTime(const IGame& game, const Player& player) {
@@ -39,25 +38,26 @@ void recordTime(const IGame& game, const Player& player) {
 }  // namespace
 
 LevelChange::LevelChange() {
-    type = "levelchange";
     category = category::levelChange;
     solid = false;
     showDamage = false;
     flags.set(bodyflag::untouchable);
 }
 
-std::unique_ptr<Body> LevelChange::create() const {
-    return std::make_unique<LevelChange>();
-}
-
-void LevelChange::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    readMapName(given, "leveltarget", levelTarget);
-    readMapName(given, "demoleveltarget", demoLevelTarget);
-    given.read("targetspawn", targetSpawn);
-    given.read("iscutscene", isCutscene);
-    given.read("cutscene", cutscene);
+void LevelChange::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().box(32, 32).with("texture", "data/images/levelexit.png").with("texmap", "fit");
+    const auto mapParam = [&f](const char* name, std::string& map, const char* meaning) {
+        f.param(
+             name, map, [&map](const std::string& given) { setMap(map, given); }, meaning)
+            .kind(ParamKind::map);
+    };
+    mapParam("leveltarget", levelTarget, "Name of the level that it leads to.");
+    mapParam("demoleveltarget", demoLevelTarget, "The level of the demonstration version.");
+    f.param("targetspawn", targetSpawn,
+            "Name of the spawn point in that level; its start point when empty.");
+    f.param("iscutscene", isCutscene, "Shows the cutscene instead.");
+    f.param("cutscene", cutscene, "File of the cutscene.").kind(ParamKind::cutscene);
 }
 
 void LevelChange::onLoaded() {

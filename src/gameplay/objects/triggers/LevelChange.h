@@ -3,18 +3,18 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// The way out of a level: to another one, or to a cutscene (type "levelchange").
-class LevelChange final : public GameBody {
+class LevelChange final : public Creatable<LevelChange, GameBody> {
   public:
     LevelChange();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onLoaded() override;
     void onTouch(const TouchInfo& info) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
 
     /// Map names; ".xml" is part of them.
     std::string levelTarget;

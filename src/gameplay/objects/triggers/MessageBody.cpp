@@ -2,23 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/triggers/MessageBody.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/Effects.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
 
 namespace bc {
 
-MessageBody::MessageBody() {
-    type = "messagebody";
-}
+MessageBody::MessageBody() {}
 
-std::unique_ptr<Body> MessageBody::create() const {
-    return std::make_unique<MessageBody>();
-}
-
-void MessageBody::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    TriggerBody::applyAttributes(attributes);
-    Attributes(attributes).read("message", message);
+void MessageBody::fields(BodyFields& f) {
+    TriggerBody::fields(f);
+    f.level().with("visible", "false");
+    f.param("message", message, "What it says.").required();
 }
 
 void MessageBody::onTouch(const TouchInfo& info) {
@@ -31,21 +26,6 @@ void MessageBody::onTouch(const TouchInfo& info) {
 
 void MessageBody::onTriggered(GameBody* /*activator*/) {
     arm();
-}
-
-MessengerBody::MessengerBody() {
-    type = "messengerbody";
-}
-
-std::unique_ptr<Body> MessengerBody::create() const {
-    return std::make_unique<MessengerBody>();
-}
-
-void MessengerBody::onTriggered(GameBody* /*activator*/) {
-    if (triggered)
-        return;
-    arm();
-    showAnchoredMessage(message, anchorCentre);
 }
 
 }  // namespace bc

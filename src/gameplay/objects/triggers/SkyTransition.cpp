@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/triggers/SkyTransition.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "ports/IGame.h"
 #include "sky/SkyManager.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
 
 #include <vector>
@@ -22,17 +22,12 @@ SkyManager* skyManager() {
 
 }  // namespace
 
-SkyTransition::SkyTransition() {
-    type = "skytransition";
-}
+SkyTransition::SkyTransition() {}
 
-std::unique_ptr<Body> SkyTransition::create() const {
-    return std::make_unique<SkyTransition>();
-}
-
-void SkyTransition::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    TriggerBody::applyAttributes(attributes);
-    Attributes(attributes).read("sky", sky);
+void SkyTransition::fields(BodyFields& f) {
+    TriggerBody::fields(f);
+    f.level().with("visible", "false");
+    f.param("sky", sky, "Name of the sky.").kind(ParamKind::sky).required();
 }
 
 void SkyTransition::onTouch(const TouchInfo& info) {
@@ -41,39 +36,6 @@ void SkyTransition::onTouch(const TouchInfo& info) {
     arm();
     if (SkyManager* manager = skyManager())
         manager->switchSkyByName(sky);
-}
-
-SkyInfo::SkyInfo() {
-    type = "skyinfo";
-    visible = false;
-    solid = false;
-    showDamage = false;
-    flags.set(bodyflag::untouchable);
-}
-
-std::unique_ptr<Body> SkyInfo::create() const {
-    return std::make_unique<SkyInfo>();
-}
-
-void SkyInfo::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("skies", skies);
-    given.read("initialsky", initialSky);
-}
-
-void SkyInfo::onLoaded() {
-    GameBody::onLoaded();
-    SkyManager* manager = skyManager();
-    if (manager == nullptr)
-        return;
-    manager->unloadAll();
-    std::vector<std::string> names;
-    tokenise(",", skies, names);
-    for (const std::string& name : names)
-        manager->loadSkyByName(name);
-    if (!initialSky.empty())
-        manager->switchSkyByName(initialSky);
 }
 
 }  // namespace bc

@@ -3,34 +3,20 @@
 #pragma once
 
 #include "gameplay/objects/triggers/TriggerBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Changes the sky when the player passes (type "skytransition"); its targets are left alone.
-class SkyTransition final : public TriggerBody {
+class SkyTransition final : public Creatable<SkyTransition, TriggerBody> {
   public:
     SkyTransition();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onTouch(const TouchInfo& info) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
 
     /// Bare name or path of a loaded sky.
     std::string sky;
-};
-
-/// The skies of a level (type "skyinfo"): which are loaded and with which it begins.
-class SkyInfo final : public GameBody {
-  public:
-    SkyInfo();
-
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void onLoaded() override;
-
-    /// Comma-separated.
-    std::string skies;
-    std::string initialSky;
 };
 
 }  // namespace bc

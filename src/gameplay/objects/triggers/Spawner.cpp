@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/triggers/Spawner.h"
 
-#include "gameplay/actors/Attributes.h"
+#include "core/Text.h"
 #include "gameplay/actors/Effects.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
@@ -11,33 +11,36 @@
 #include "gameplay/actors/Spawning.h"
 #include "particles/ParticleManager.h"
 #include "ports/IGameplay.h"
-#include "resources/XmlAttributes.h"
-
-#include <tinyxml.h>
+#include "world/BodyFields.h"
 
 namespace bc {
 
 Spawner::Spawner() {
-    type = "spawner";
     thinks = true;
     solid = false;
     showDamage = false;
     flags.set(bodyflag::untouchable);
 }
 
-std::unique_ptr<Body> Spawner::create() const {
-    return std::make_unique<Spawner>();
-}
-
-void Spawner::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("spawnedtype", spawnedType);
-    given.read("spawnlevel", spawnLevel);
-    given.read("maxalive", maxAlive);
-    given.read("spawndelay", spawnDelay);
-    given.read("maxspawned", maxSpawned);
-    given.read("untriggertimer", untriggerTime);
+void Spawner::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().box(16, 16).with("entity", "true").with("visible", "false");
+    f.param("spawnedtype", spawnedType, "Type of what it makes.")
+        .kind(ParamKind::bodyType)
+        .required();
+    f.param("spawnlevel", spawnLevel, "Level of the enemies.");
+    f.param("maxalive", maxAlive, "At once.").inLevels("1");
+    f.param("spawndelay", spawnDelay, "Between two of them.").inLevels("2000");
+    f.param("maxspawned", maxSpawned, "In all.");
+    f.param("untriggertimer", untriggerTime, "Until it can be triggered again.");
+    f.shown("active", active);
+    f.shown("numspawned", numSpawned);
+    f.shown("numalive", numAlive);
+    f.kept("nextspawn", nextSpawn);
+    f.saved("numspawned", numSpawned);
+    f.saved("active", active);
+    f.saved("triggered", triggered);
+    f.saved("untriggertime", untriggerAt);
 }
 
 void Spawner::onTriggered(GameBody* /*activator*/) {
@@ -82,32 +85,6 @@ void Spawner::spawn() {
     addToWorld(std::move(owned));
     startParticles("itemrespawn2", pos);
     playSoundAt(sound::teleport, pos);
-}
-
-void Spawner::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    nextSpawn = xml::readFloat(e, "nextspawn");
-    numSpawned = xml::readInt(e, "numspawned");
-    active = xml::readBool(e, "active");
-    triggered = xml::readBool(e, "triggered");
-    untriggerAt = xml::readFloat(e, "untriggertime");
-}
-
-void Spawner::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeFloat(e, "nextspawn", nextSpawn);
-    xml::writeInt(e, "numspawned", numSpawned);
-    xml::writeBool(e, "active", active);
-    xml::writeBool(e, "triggered", triggered);
-    xml::writeFloat(e, "untriggertime", untriggerAt);
-}
-
-void Spawner::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "active", active);
-    xml::writeInt(debug, "numspawned", numSpawned);
-    xml::writeInt(debug, "numalive", numAlive);
-    xml::writeFloat(debug, "nextspawn", nextSpawn);
 }
 
 }  // namespace bc

@@ -3,21 +3,18 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Makes bodies of a type once something has set it off (type "spawner").
-class Spawner final : public GameBody {
+class Spawner final : public Creatable<Spawner, GameBody> {
   public:
     Spawner();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onTriggered(GameBody* activator) override;
     void onThink(float dt) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// The player cannot be spawned.
     std::string spawnedType;

@@ -2,30 +2,29 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/triggers/Switch.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/Effects.h"
 #include "gameplay/actors/SoundIds.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
 
 namespace bc {
 
 Switch::Switch() {
-    type = "switch";
     textured = true;
     clampTexture = true;
     outlined = false;
     usesDefaultShape = true;
 }
 
-std::unique_ptr<Body> Switch::create() const {
-    return std::make_unique<Switch>();
-}
-
-void Switch::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    TriggerBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("untriggeredimage", untriggeredImage);
-    given.read("triggeredimage", triggeredImage);
+void Switch::fields(BodyFields& f) {
+    TriggerBody::fields(f);
+    f.level().with("texture", "data/images/switch.png").with("texmap", "fit");
+    f.param("untriggeredimage", untriggeredImage, "Picture while it can be thrown.")
+        .kind(ParamKind::texture)
+        .inLevels("data/images/switch.png");
+    f.param("triggeredimage", triggeredImage, "Picture after it was thrown.")
+        .kind(ParamKind::texture)
+        .inLevels("data/images/switchtriggered.png");
 }
 
 void Switch::onTouch(const TouchInfo& info) {

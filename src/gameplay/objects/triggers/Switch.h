@@ -3,17 +3,17 @@
 #pragma once
 
 #include "gameplay/objects/triggers/TriggerBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Sets off its targets when the player touches it, and shows whether it rests (type "switch").
-class Switch final : public TriggerBody {
+class Switch final : public Creatable<Switch, TriggerBody> {
   public:
     Switch();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onTouch(const TouchInfo& info) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
 
     // Pictures at rest and ready.
     std::string triggeredImage;

@@ -3,19 +3,20 @@
 #include "gameplay/objects/triggers/TargetGroup.h"
 
 #include "gameplay/actors/GameCategories.h"
+#include "world/BodyFields.h"
 
 namespace bc {
 
 TargetGroup::TargetGroup() {
-    type = "targetgroup";
     visible = false;
     solid = false;
     showDamage = false;
     flags.set(bodyflag::untouchable);
 }
 
-std::unique_ptr<Body> TargetGroup::create() const {
-    return std::make_unique<TargetGroup>();
+void TargetGroup::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().box(16, 16).with("visible", "false");
 }
 
 void TargetGroup::onTriggered(GameBody* activator) {

@@ -3,15 +3,16 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Passes on what sets it off to its own targets (type "targetgroup").
-class TargetGroup final : public GameBody {
+class TargetGroup final : public Creatable<TargetGroup, GameBody> {
   public:
     TargetGroup();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onTriggered(GameBody* activator) override;
 };
 

@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/triggers/Trigger.h"
 
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
 
 namespace bc {
 
-Trigger::Trigger() {
-    type = "trigger";
-}
+Trigger::Trigger() {}
 
-std::unique_ptr<Body> Trigger::create() const {
-    return std::make_unique<Trigger>();
+void Trigger::fields(BodyFields& f) {
+    TriggerBody::fields(f);
+    f.level().with("visible", "false");
 }
 
 void Trigger::onTouch(const TouchInfo& info) {
@@ -19,36 +19,6 @@ void Trigger::onTouch(const TouchInfo& info) {
         return;
     arm();
     fireTargets();
-}
-
-BatterySlot::BatterySlot() {
-    type = "batteryslot";
-}
-
-std::unique_ptr<Body> BatterySlot::create() const {
-    return std::make_unique<BatterySlot>();
-}
-
-void BatterySlot::onTouch(const TouchInfo& info) {
-    if (triggered || dynamic_cast<const Battery*>(info.other) == nullptr)
-        return;
-    arm();
-    fireTargets();
-}
-
-Battery::Battery() {
-    type = "battery";
-    texture = "data/images/battery.png";
-    textured = true;
-    clampTexture = true;
-    outlined = false;
-    thinks = true;
-    hasGlow = true;
-    glowSteps = 2;
-}
-
-std::unique_ptr<Body> Battery::create() const {
-    return std::make_unique<Battery>();
 }
 
 }  // namespace bc

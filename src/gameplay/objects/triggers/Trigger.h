@@ -3,33 +3,17 @@
 #pragma once
 
 #include "gameplay/objects/triggers/TriggerBody.h"
+#include "world/Creatable.h"
 
 namespace bc {
 
 /// Sets off its targets when the player touches it (type "trigger").
-class Trigger : public TriggerBody {
+class Trigger : public Creatable<Trigger, TriggerBody> {
   public:
     Trigger();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onTouch(const TouchInfo& info) override;
-};
-
-/// The same for a body of type "battery" (type "batteryslot").
-class BatterySlot final : public Trigger {
-  public:
-    BatterySlot();
-
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
-    void onTouch(const TouchInfo& info) override;
-};
-
-/// Something to carry to a slot (type "battery").
-class Battery final : public GameBody {
-  public:
-    Battery();
-
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
 };
 
 }  // namespace bc

@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/triggers/TriggerBody.h"
 
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
-#include "resources/XmlAttributes.h"
+#include "world/BodyFields.h"
 #include "world/TouchInfo.h"
-
-#include <tinyxml.h>
 
 namespace bc {
 
@@ -17,6 +14,15 @@ TriggerBody::TriggerBody() {
     solid = false;
     showDamage = false;
     flags.set(bodyflag::untouchable);
+}
+
+void TriggerBody::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().with("entity", "true");
+    f.param("triggeronce", triggerOnce, "Fires once, never again.");
+    f.param("untriggertimer", untriggerTime, "Until it can fire again.");
+    f.kept("triggered", triggered);
+    f.kept("untriggertime", untriggerAt);
 }
 
 void TriggerBody::arm() {
@@ -33,31 +39,6 @@ void TriggerBody::onThink(float /*dt*/) {
         return;
     triggered = false;
     onRearmed();
-}
-
-void TriggerBody::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    const Attributes given(attributes);
-    given.read("triggeronce", triggerOnce);
-    given.read("untriggertimer", untriggerTime);
-}
-
-void TriggerBody::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    triggered = xml::readBool(e, "triggered");
-    untriggerAt = xml::readFloat(e, "untriggertime");
-}
-
-void TriggerBody::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeBool(e, "triggered", triggered);
-    xml::writeFloat(e, "untriggertime", untriggerAt);
-}
-
-void TriggerBody::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "triggered", triggered);
-    xml::writeFloat(debug, "untriggertime", untriggerAt);
 }
 
 }  // namespace bc

@@ -11,12 +11,9 @@ namespace bc {
 class TriggerBody : public GameBody {
   public:
     TriggerBody();
+    void fields(BodyFields& f) override;
 
     void onThink(float dt) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// Has gone off and rests.
     bool triggered = false;

@@ -3,11 +3,11 @@
 #include "gameplay/objects/triggers/WaveController.h"
 
 #include "core/Log.h"
-#include "gameplay/actors/Attributes.h"
 #include "gameplay/actors/GameCategories.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "resources/ResourceManager.h"
 #include "resources/XmlAttributes.h"
+#include "world/BodyFields.h"
 #include "world/World.h"
 
 #include <tinyxml.h>
@@ -36,7 +36,6 @@ void forEachEvent(const TiXmlElement& e, const Visit& visit) {
 }  // namespace
 
 WaveController::WaveController() {
-    type = "wavecontroller";
     thinks = true;
     visible = false;
     solid = false;
@@ -44,13 +43,15 @@ WaveController::WaveController() {
     flags.set(bodyflag::untouchable);
 }
 
-std::unique_ptr<Body> WaveController::create() const {
-    return std::make_unique<WaveController>();
-}
-
-void WaveController::applyAttributes(const std::map<std::string, std::string>& attributes) {
-    GameBody::applyAttributes(attributes);
-    Attributes(attributes).read("wavefile", waveFile);
+void WaveController::fields(BodyFields& f) {
+    GameBody::fields(f);
+    f.level().box(16, 16).with("entity", "true").with("visible", "false");
+    f.param("wavefile", waveFile, "File with the events.").kind(ParamKind::wave).required();
+    f.kept("active", active);
+    f.kept("starttime", startTime);
+    f.saved("fireduntil", firedUntil_, unknown);
+    f.shown("fired", static_cast<int>(next_));
+    f.shown("events", static_cast<int>(events_.size()));
 }
 
 void WaveController::onLoaded() {
@@ -106,28 +107,6 @@ void WaveController::onBodyRemoved(const Body& gone) {
     for (Event& event : events_)
         if (event.body == &gone)
             event.body = nullptr;
-}
-
-void WaveController::loadState(const TiXmlElement& e) {
-    GameBody::loadState(e);
-    active = xml::readBool(e, "active");
-    startTime = xml::readFloat(e, "starttime");
-    firedUntil_ = xml::has(e, "fireduntil") ? xml::readFloat(e, "fireduntil") : unknown;
-}
-
-void WaveController::saveState(TiXmlElement& e) const {
-    GameBody::saveState(e);
-    xml::writeBool(e, "active", active);
-    xml::writeFloat(e, "starttime", startTime);
-    xml::writeFloat(e, "fireduntil", firedUntil_);
-}
-
-void WaveController::dumpState(TiXmlElement& debug) const {
-    GameBody::dumpState(debug);
-    xml::writeBool(debug, "active", active);
-    xml::writeFloat(debug, "starttime", startTime);
-    xml::writeInt(debug, "fired", static_cast<int>(next_));
-    xml::writeInt(debug, "events", static_cast<int>(events_.size()));
 }
 
 }  // namespace bc

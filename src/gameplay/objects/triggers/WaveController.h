@@ -3,6 +3,7 @@
 #pragma once
 
 #include "gameplay/actors/GameBody.h"
+#include "world/Creatable.h"
 
 #include <string>
 #include <vector>
@@ -10,19 +11,15 @@
 namespace bc {
 
 /// Sets off bodies after a timetable once something has started it (type "wavecontroller").
-class WaveController final : public GameBody {
+class WaveController final : public Creatable<WaveController, GameBody> {
   public:
     WaveController();
+    void fields(BodyFields& f) override;
 
-    [[nodiscard]] std::unique_ptr<Body> create() const override;
     void onLoaded() override;
     void onTriggered(GameBody* activator) override;
     void onThink(float dt) override;
     void onBodyRemoved(const Body& gone) override;
-    void applyAttributes(const std::map<std::string, std::string>& attributes) override;
-    void loadState(const TiXmlElement& e) override;
-    void saveState(TiXmlElement& e) const override;
-    void dumpState(TiXmlElement& debug) const override;
 
     /// XML with event elements: time in milliseconds and target, a body id.
     std::string waveFile;
