@@ -18,7 +18,7 @@ foreach(tmx IN LISTS tmxs)
   set(level ${BRIGHTCLASH_GAME_DIR}/maps/${name}.xml)
   add_custom_command(OUTPUT ${level}
     COMMAND levelc ${CMAKE_CURRENT_LIST_DIR} ${tmx} ${level}
-    DEPENDS ${tmx} levelc ${CMAKE_CURRENT_LIST_DIR}/maps/bodytypes.xml ${particles}
+    DEPENDS ${tmx} levelc ${particles}
       ${CMAKE_CURRENT_BINARY_DIR}/named.txt
     VERBATIM)
   list(APPEND levels ${level})

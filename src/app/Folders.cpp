@@ -3,8 +3,8 @@
 #include "app/Folders.h"
 
 #include "resources/FileSystem.h"
+#include "resources/GameFolders.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
@@ -17,29 +17,6 @@ namespace fs = std::filesystem;
 bool holdsData(const fs::path& folder) {
     std::error_code ignored;
     return fs::is_directory(folder / "data", ignored) || fs::exists(folder / "data.zip", ignored);
-}
-
-/// A folder that holds no more than a person's config.txt under data/ is not the game's.
-bool isGameFolder(const fs::path& folder) {
-    std::error_code ignored;
-    return fs::exists(folder / "data" / "gamevars.xml", ignored) ||
-           fs::is_directory(folder / "data" / "fonts", ignored) ||
-           fs::exists(folder / "data.zip", ignored);
-}
-
-/// The game's own files: share/brightclash of the prefix, or the program's folder in a build.
-fs::path shippedFolder() {
-    std::error_code ignored;
-    const fs::path program = fs::read_symlink("/proc/self/exe", ignored).parent_path();
-    const fs::path shared = program.parent_path() / "share" / "brightclash";
-    return !isGameFolder(program) && isGameFolder(shared) ? shared : program;
-}
-
-fs::path personalFolder() {
-    if (const char* xdg = std::getenv("XDG_DATA_HOME"); xdg != nullptr && xdg[0] == '/')
-        return fs::path(xdg) / "brightclash";
-    const char* home = std::getenv("HOME");
-    return fs::path(home != nullptr ? home : ".") / ".local" / "share" / "brightclash";
 }
 
 }  // namespace

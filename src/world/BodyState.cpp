@@ -80,13 +80,14 @@ void Body::fields(BodyFields& f) {
         .inLevels("0")
         .rank(16);
 
-    f.param("glow", hasGlow, "Drawn in the bloom pass as well.").leftOut().common();
+    f.param("glow", hasGlow, "Drawn in the bloom pass as well.").leftOut().common().rank(-3);
     f.param(
          "glowsteps", glowSteps,
          [this](int given) { glowSteps = std::clamp(given, 0, maxGlowSteps); },
          "Additive passes of the glow picture of bodies that have one.")
         .leftOut()
-        .common();
+        .common()
+        .rank(-3);
 
     f.saved("renderpos", renderpos);
     f.saved("oldpos", oldpos);

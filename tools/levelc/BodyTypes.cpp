@@ -2,13 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "BodyTypes.h"
 
-#include "BodyTypesReader.h"
+#include "DrawingParams.h"
 
 #include "core/Text.h"
+#include "gameplay/rules/BodyTypes.h"
+#include "world/Body.h"
+#include "world/TypeDescription.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <memory>
+#include <utility>
 
 namespace bc::levelc {
 
@@ -43,6 +48,67 @@ bool isPlainText(const std::string& text) {
     });
 }
 
+Param paramOf(const ParamInfo& info) {
+    Param param;
+    param.name = info.name;
+    param.kind = info.kind;
+    param.choiceName = info.choiceName;
+    param.choices = info.choices;
+    param.place = info.placed ? ParamPlace::Level : ParamPlace::Attribute;
+    param.realDefault = info.realDefault;
+    if (!info.leftOut && !info.required)
+        param.defaultText = info.levelDefault.value_or(info.realDefault);
+    param.required = info.required;
+    param.common = info.common;
+    param.doc = info.meaning;
+    return param;
+}
+
+/// Those beside the polygon, those that dress it, then the custom attributes.
+std::vector<Param> paramsOf(const TypeDescription& description) {
+    std::vector<Param> params;
+    bool dressed = false;
+    for (const ParamInfo& info : description.params) {
+        if (!info.placed && !std::exchange(dressed, true)) {
+            const std::vector<Param> drawing = drawingParams();
+            params.insert(params.end(), drawing.begin(), drawing.end());
+        }
+        params.push_back(paramOf(info));
+    }
+    return params;
+}
+
+/// An object that does not say so is drawn with its texture if it has one.
+void settleTextured(BodyType& type) {
+    const Param* texture = type.find("texture");
+    const bool has = texture != nullptr && !texture->defaultText.value_or("").empty();
+    for (Param& param : type.params)
+        if (param.name == "textured")
+            param.realDefault = boolText(has);
+}
+
+BodyType describeRow(const BodyTypeRow& row) {
+    const std::unique_ptr<Body> body = row.make();
+    TypeDescription description = describeType(*body);
+    if (row.traits != nullptr)
+        row.traits(LevelNotes(&description.traits));
+    BodyType type;
+    type.name = row.name;
+    type.use = row.use;
+    type.doc = row.purpose;
+    if (const auto& box = description.traits.box)
+        type.size = Point{box->first, box->second};
+    type.canBeCut = description.traits.canBeCut;
+    type.runtimeOnly = row.use == "runtime";
+    type.params = paramsOf(description);
+    for (const auto& [name, text] : description.traits.defaults)
+        for (Param& param : type.params)
+            if (param.name == name)
+                param.defaultText = text;
+    settleTextured(type);
+    return type;
+}
+
 }  // namespace
 
 std::optional<double> parseNumber(std::string_view text) {
@@ -73,12 +139,18 @@ const Param* BodyType::find(std::string_view param) const {
     return findNamed(params, param);
 }
 
-std::string BodyTypes::read(std::string_view xml) {
-    BodyTypes fresh;
-    std::string error = BodyTypesReader(fresh).read(xml);
-    if (error.empty())
-        *this = std::move(fresh);
-    return error;
+BodyTypes::BodyTypes() {
+    for (const bc::BodyUse& use : bodyUses())
+        uses_.push_back({std::string(use.name), std::string(use.colour), std::string(use.meaning)});
+    types_.push_back(describeRow(plainBodyType()));
+    for (const BodyTypeRow& row : bodyTypes())
+        types_.push_back(describeRow(row));
+    for (const BodyType& type : types_)
+        for (const Param& param : type.params)
+            if (param.kind == ParamKind::choice)
+                choices_[param.choiceName] = param.choices;
+    // The general defaults are those of plain geometry before its own are put in their place.
+    common_ = paramsOf(describeType(*plainBodyType().make()));
 }
 
 const BodyType* BodyTypes::find(std::string_view name) const {
@@ -89,24 +161,23 @@ const BodyUse* BodyTypes::findUse(std::string_view name) const {
     return findNamed(uses_, name);
 }
 
-std::string BodyTypes::checkText(const Param& param, const std::string& text) const {
-    switch (param.type) {
-        case ParamType::Int:
+std::string BodyTypes::checkText(const Param& param, const std::string& text) {
+    switch (param.kind) {
+        case ParamKind::integer:
             return isInteger(text) ? "" : "should be a whole number";
-        case ParamType::Float:
+        case ParamKind::number:
             return parseNumber(text) ? "" : "should be a number";
-        case ParamType::Bool:
+        case ParamKind::boolean:
             return text == "true" || text == "false" ? "" : "should be true or false";
-        case ParamType::Vector:
+        case ParamKind::vector:
             return isVector(text) ? "" : "should be two or three numbers with commas between";
-        case ParamType::Colour:
+        case ParamKind::colour:
             return gameColour(text) ? "" : "should be a colour, #aarrggbb";
-        case ParamType::Enum: {
-            const std::vector<std::string>& values = enums_.at(param.enumName);
-            if (std::find(values.begin(), values.end(), text) != values.end())
+        case ParamKind::choice: {
+            if (std::find(param.choices.begin(), param.choices.end(), text) != param.choices.end())
                 return "";
             std::string list;
-            for (const std::string& value : values)
+            for (const std::string& value : param.choices)
                 list += (list.empty() ? "" : ", ") + value;
             return "should be one of " + list;
         }

@@ -4,6 +4,8 @@
 
 #include "Geometry.h"
 
+#include "world/TypeNotes.h"
+
 #include <map>
 #include <optional>
 #include <string>
@@ -11,28 +13,6 @@
 #include <vector>
 
 namespace bc::levelc {
-
-/// What a parameter's text has to be.
-enum class ParamType {
-    Text,
-    Int,
-    Float,
-    Bool,
-    Vector,
-    Colour,
-    Texture,
-    Sound,
-    Particle,
-    Sky,
-    Skies,
-    Map,
-    Cutscene,
-    Wave,
-    BodyTypeName,
-    Id,
-    Ids,
-    Enum,
-};
 
 /// Where a parameter ends up.
 enum class ParamPlace {
@@ -43,19 +23,23 @@ enum class ParamPlace {
 
 struct Param {
     std::string name;
-    ParamType type = ParamType::Text;
-    /// Of an Enum.
-    std::string enumName;
+    ParamKind kind = ParamKind::text;
+    /// Of a choice: name of the list, and the list.
+    std::string choiceName;
+    std::vector<std::string> choices;
     ParamPlace place = ParamPlace::Attribute;
     /// Written where nothing is set; without it the game's own default holds.
     std::optional<std::string> defaultText;
+    /// The game's own default, as the editor writes it.
+    std::string realDefault;
     bool required = false;
+    /// Every type has it.
+    bool common = false;
     std::string doc;
 };
 
 struct BodyType {
     std::string name;
-    std::string className;
     std::string use;
     std::string doc;
     /// The box, in world units, that an object drawn as a point becomes.
@@ -64,7 +48,7 @@ struct BodyType {
     bool canBeCut = false;
     /// Only the game makes such bodies.
     bool runtimeOnly = false;
-    /// All that can be set: those of the groups first, with this type's defaults.
+    /// All that can be set: the common ones first, with this type's defaults.
     std::vector<Param> params;
 
     [[nodiscard]] const Param* find(std::string_view param) const;
@@ -78,35 +62,33 @@ struct BodyUse {
     std::string doc;
 };
 
-/// The table of body types, read from assets/maps/bodytypes.xml: what a level may hold, by which
-/// levels are compiled and the editor's types and the documentation are made.
+/// What a level may hold: the game's own table of body types, with the parameters that their
+/// classes declare, and those by which this compiler dresses objects.
 class BodyTypes {
   public:
-    /// Empty when it went well; otherwise what is wrong with the table.
-    [[nodiscard]] std::string read(std::string_view xml);
+    /// Asks the game's classes.
+    BodyTypes();
 
     [[nodiscard]] const BodyType* find(std::string_view name) const;
-    /// In the order of the table, which is the order of the game's factory.
+    /// In the order of the game's table; plain geometry first.
     [[nodiscard]] const std::vector<BodyType>& types() const { return types_; }
     [[nodiscard]] const std::vector<BodyUse>& uses() const { return uses_; }
     [[nodiscard]] const BodyUse* findUse(std::string_view name) const;
-    /// Values of each enum, in their order.
-    [[nodiscard]] const std::map<std::string, std::vector<std::string>>& enums() const {
-        return enums_;
+    /// The lists of choices by name.
+    [[nodiscard]] const std::map<std::string, std::vector<std::string>>& choices() const {
+        return choices_;
     }
     /// The parameters that every type has, with their general defaults.
     [[nodiscard]] const std::vector<Param>& commonParams() const { return common_; }
 
-    /// Empty when text is a value of the parameter's type, else what it should be. Names of other
+    /// Empty when text is a value of the parameter's kind, else what it should be. Names of other
     /// things (objects, files) are not looked up here.
-    [[nodiscard]] std::string checkText(const Param& param, const std::string& text) const;
+    [[nodiscard]] static std::string checkText(const Param& param, const std::string& text);
 
   private:
-    friend class BodyTypesReader;
-
     std::vector<BodyType> types_;
     std::vector<BodyUse> uses_;
-    std::map<std::string, std::vector<std::string>> enums_;
+    std::map<std::string, std::vector<std::string>> choices_;
     std::vector<Param> common_;
 };
 

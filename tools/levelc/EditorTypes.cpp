@@ -24,40 +24,32 @@ std::string quoted(const std::string& text) {
 
 /// The editor's name for the type; names of files and objects are texts to it.
 std::string editorType(const Param& param) {
-    switch (param.type) {
-        case ParamType::Int:
+    switch (param.kind) {
+        case ParamKind::integer:
             return "int";
-        case ParamType::Float:
+        case ParamKind::number:
             return "float";
-        case ParamType::Bool:
+        case ParamKind::boolean:
             return "bool";
-        case ParamType::Colour:
+        case ParamKind::colour:
             return "color";
         default:
             return "string";
     }
 }
 
-/// What the editor shows while nothing is set.
+/// What the editor shows while nothing is set. It draws no colour for the game's way of writing
+/// one.
 std::string shownDefault(const Param& param) {
     if (param.defaultText)
         return *param.defaultText;
-    switch (param.type) {
-        case ParamType::Int:
-        case ParamType::Float:
-            return "0";
-        case ParamType::Bool:
-            return "false";
-        case ParamType::Enum:
-        default:
-            return "";
-    }
+    return param.required || param.kind == ParamKind::colour ? "" : param.realDefault;
 }
 
 std::string jsonValue(const Param& param) {
     const std::string text = shownDefault(param);
-    const bool bare = param.type == ParamType::Int || param.type == ParamType::Float ||
-                      param.type == ParamType::Bool;
+    const bool bare = param.kind == ParamKind::integer || param.kind == ParamKind::number ||
+                      param.kind == ParamKind::boolean;
     return bare ? text : quoted(text);
 }
 
@@ -83,9 +75,10 @@ std::string enumJson(int id, const std::string& name, const std::vector<std::str
 std::string classJson(int id, const BodyType& type, const BodyTypes& types) {
     std::string members;
     for (const Param* param : byName(type)) {
-        const std::string propertyType = param->type == ParamType::Enum
-                                             ? "\"propertyType\": " + quoted(param->enumName) + ", "
-                                             : "";
+        const std::string propertyType =
+            param->kind == ParamKind::choice
+                ? "\"propertyType\": " + quoted(param->choiceName) + ", "
+                : "";
         members += (members.empty() ? "" : ",\n") + std::string("            {\"name\": ") +
                    quoted(param->name) + ", " + propertyType +
                    "\"type\": " + quoted(editorType(*param)) + ", \"value\": " + jsonValue(*param) +
@@ -103,7 +96,7 @@ std::string classJson(int id, const BodyType& type, const BodyTypes& types) {
 std::string tiledProject(const BodyTypes& types) {
     std::string list;
     int id = 0;
-    for (const auto& [name, values] : types.enums())
+    for (const auto& [name, values] : types.choices())
         list += (list.empty() ? "" : ",\n") + enumJson(++id, name, values);
     for (const BodyType& type : types.types()) {
         if (!type.runtimeOnly)

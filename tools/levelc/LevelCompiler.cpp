@@ -141,7 +141,7 @@ class Compiler {
             edged_.push_back({shape.corners, std::max(shape.values.number("edgewidth"), 0.1),
                               shape.values.number("z-shift")});
         }
-        const std::string error = assets_.checkFile(ParamType::Texture, edgePicture);
+        const std::string error = assets_.checkFile(ParamKind::texture, edgePicture);
         if (!edged_.empty() && !error.empty())
             problems_.add(error + ", which edges are drawn with");
     }
@@ -174,7 +174,7 @@ class Compiler {
             if (!values.has(param.name) || param.place == ParamPlace::Drawing)
                 continue;
             auto& texts = param.place == ParamPlace::Level ? body.params : body.attributes;
-            texts.emplace_back(param.name, param.type == ParamType::Colour
+            texts.emplace_back(param.name, param.kind == ParamKind::colour
                                                ? values.colour(param.name)
                                                : values.text(param.name));
         }

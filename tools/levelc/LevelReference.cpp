@@ -4,83 +4,84 @@
 #include "EditorTypes.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace bc::levelc {
 
 namespace {
 
-std::string typeText(const Param& param, const BodyTypes& types) {
-    switch (param.type) {
-        case ParamType::Text:
+std::string typeText(const Param& param) {
+    switch (param.kind) {
+        case ParamKind::text:
             return "text";
-        case ParamType::Int:
+        case ParamKind::integer:
             return "whole number";
-        case ParamType::Float:
+        case ParamKind::number:
             return "number";
-        case ParamType::Bool:
+        case ParamKind::boolean:
             return "true or false";
-        case ParamType::Vector:
+        case ParamKind::vector:
             return "x,y";
-        case ParamType::Colour:
+        case ParamKind::colour:
             return "colour";
-        case ParamType::Texture:
+        case ParamKind::texture:
             return "picture";
-        case ParamType::Sound:
+        case ParamKind::sound:
             return "sound";
-        case ParamType::Particle:
+        case ParamKind::particle:
             return "particle system";
-        case ParamType::Sky:
+        case ParamKind::sky:
             return "sky";
-        case ParamType::Skies:
+        case ParamKind::skies:
             return "skies";
-        case ParamType::Map:
+        case ParamKind::map:
             return "level";
-        case ParamType::Cutscene:
+        case ParamKind::cutscene:
             return "cutscene file";
-        case ParamType::Wave:
+        case ParamKind::wave:
             return "wave file";
-        case ParamType::BodyTypeName:
+        case ParamKind::bodyType:
             return "body type";
-        case ParamType::Id:
+        case ParamKind::id:
             return "object";
-        case ParamType::Ids:
+        case ParamKind::ids:
             return "objects";
-        case ParamType::Enum:
+        case ParamKind::choice:
             break;
     }
     std::string list;
-    for (const std::string& value : types.enums().at(param.enumName))
+    for (const std::string& value : param.choices)
         list += (list.empty() ? "" : ", ") + value;
     return list;
+}
+
+/// The value of a new object that sets nothing.
+const std::string& effectiveDefault(const Param& param) {
+    return param.defaultText ? *param.defaultText : param.realDefault;
 }
 
 std::string defaultText(const Param& param) {
     if (param.required)
         return "must be set";
-    if (!param.defaultText)
-        return "";
-    return param.defaultText->empty() ? "none" : "`" + *param.defaultText + "`";
+    if (param.kind == ParamKind::colour && !param.defaultText)
+        return "none";
+    const std::string& text = effectiveDefault(param);
+    return text.empty() ? "none" : "`" + text + "`";
 }
 
-std::string table(const std::vector<Param>& params, const BodyTypes& types) {
+std::string table(const std::vector<Param>& params) {
     std::string out = "| property | value | default | |\n| --- | --- | --- | --- |\n";
     for (const Param& param : params)
-        out += "| `" + param.name + "` | " + typeText(param, types) + " | " + defaultText(param) +
-               " | " + param.doc + " |\n";
+        out += "| `" + param.name + "` | " + typeText(param) + " | " + defaultText(param) + " | " +
+               param.doc + " |\n";
     return out + "\n";
 }
 
 /// What a type has beyond the common properties.
-std::vector<Param> ownParams(const BodyType& type, const BodyTypes& types) {
+std::vector<Param> ownParams(const BodyType& type) {
     std::vector<Param> out;
-    const auto& common = types.commonParams();
-    for (const Param& param : type.params) {
-        const bool isCommon = std::any_of(common.begin(), common.end(), [&](const Param& c) {
-            return c.name == param.name && c.place == param.place;
-        });
-        if (!isCommon)
-            out.push_back(param);
-    }
+    std::copy_if(type.params.begin(), type.params.end(), std::back_inserter(out),
+                 [](const Param& param) { return !param.common; });
     return out;
 }
 
@@ -89,8 +90,8 @@ std::string changedDefaults(const BodyType& type, const BodyTypes& types) {
     std::string out;
     for (const Param& common : types.commonParams()) {
         const Param* param = type.find(common.name);
-        if (param != nullptr && param->defaultText != common.defaultText)
-            out += (out.empty() ? "" : ", ") + param->name + " `" + *param->defaultText + "`";
+        if (param != nullptr && effectiveDefault(*param) != effectiveDefault(common))
+            out += (out.empty() ? "" : ", ") + param->name + " `" + effectiveDefault(*param) + "`";
     }
     return out;
 }
@@ -107,8 +108,8 @@ std::string typeSection(const BodyType& type, const BodyTypes& types) {
     const std::string changed = changedDefaults(type, types);
     if (!changed.empty())
         out += "Defaults: " + changed + ".\n\n";
-    const std::vector<Param> own = ownParams(type, types);
-    return own.empty() ? out : out + table(own, types);
+    const std::vector<Param> own = ownParams(type);
+    return own.empty() ? out : out + table(own);
 }
 
 }  // namespace
@@ -119,12 +120,13 @@ std::string pictureOf(const BodyType& type) {
 
 std::string levelReference(const BodyTypes& types) {
     std::string out =
-        "<!-- Made by levelc from assets/maps/bodytypes.xml; edit that and run levelc --write. "
+        "<!-- Made by levelc from what the body classes declare; change those and run levelc "
+        "--write. "
         "-->\n\n# Body types\n\nWhat an object of a level can be, by its type in the editor. "
-        "Lengths are world units (one editor\npixel), times milliseconds, angles degrees. A "
-        "property without a default is left to the game\nuntil it is set.\n\n"
+        "Lengths are world units (one editor\npixel), times milliseconds, angles degrees. The "
+        "defaults are those of an object that sets nothing.\n\n"
         "## Properties of every object\n\n" +
-        table(types.commonParams(), types);
+        table(types.commonParams());
     for (const BodyUse& use : types.uses()) {
         std::string sections;
         for (const BodyType& type : types.types()) {

@@ -60,7 +60,7 @@ void ObjectValues::readSet(const MapObject& object, const Surroundings& around) 
             // A layer speaks to objects of many types.
             if (!inherited || !anyTypeKnows(around.types, name))
                 faults_.push_back("unknown property " + name);
-        } else if (param->type != ParamType::Colour || !value.empty()) {
+        } else if (param->kind != ParamKind::colour || !value.empty()) {
             // The editor writes a colour that was taken back as an empty one.
             values_[name] = value;
         }
@@ -69,7 +69,7 @@ void ObjectValues::readSet(const MapObject& object, const Surroundings& around) 
 
 void ObjectValues::checkValue(const Param& param, const std::string& text,
                               const Surroundings& around) {
-    std::string fault = around.types.checkText(param, text);
+    std::string fault = BodyTypes::checkText(param, text);
     if (!fault.empty()) {
         faults_.push_back("property " + param.name + " " + fault + ", not \"" + text + "\"");
         return;
@@ -78,8 +78,8 @@ void ObjectValues::checkValue(const Param& param, const std::string& text,
         return;
     fault = checkReference(param, text, around);
     if (fault.empty())
-        fault = around.assets.checkFile(param.type, text);
-    if (fault.empty() && param.type == ParamType::Wave) {
+        fault = around.assets.checkFile(param.kind, text);
+    if (fault.empty() && param.kind == ParamKind::wave) {
         for (const std::string& target : around.assets.waveTargets(text))
             if (around.names.count(target) == 0)
                 fault.assign(text)
@@ -93,14 +93,14 @@ void ObjectValues::checkValue(const Param& param, const std::string& text,
 
 std::string ObjectValues::checkReference(const Param& param, const std::string& text,
                                          const Surroundings& around) {
-    if (param.type == ParamType::BodyTypeName) {
+    if (param.kind == ParamKind::bodyType) {
         const BodyType* type = around.types.find(text);
         return type != nullptr && !type->runtimeOnly ? "" : "there is no body type " + text;
     }
     std::vector<std::string> names;
-    if (param.type == ParamType::Id)
+    if (param.kind == ParamKind::id)
         names.push_back(text);
-    else if (param.type == ParamType::Ids)
+    else if (param.kind == ParamKind::ids)
         tokenise(",", text, names);
     for (const std::string& name : names) {
         if (around.names.count(name) == 0)

@@ -22,10 +22,12 @@ void GameBody::fields(BodyFields& f) {
          "health", health, [this](int given) { health = maxHealth = initialHealth = given; },
          "Health it starts with and can have at most.")
         .leftOut()
-        .onlyIf(takesDamage);
+        .onlyIf(takesDamage)
+        .rank(-2);
     f.param("lives", numLives, "Times it lives; it comes back three seconds after each death.")
         .leftOut()
-        .onlyIf(takesDamage);
+        .onlyIf(takesDamage)
+        .rank(-2);
 
     f.saved("health", health);
     f.saved("maxhealth", maxHealth);

@@ -53,16 +53,10 @@ std::string object(const std::string& type, const std::string& list = "",
 
 class LevelCompilerTest : public testing::Test {
   protected:
-    void SetUp() override {
-        std::string table;
-        ASSERT_EQ(readFile(assets + "/maps/bodytypes.xml", table), "");
-        ASSERT_EQ(types_.read(table), "");
-    }
-
     Level compile(const std::string& xml, std::vector<std::string>& lines) {
         Problems problems("m.tmx");
         const TiledMap tiled = readTiledMap(xml, problems);
-        Level level = compileLevel(tiled, types_, AssetIndex(assets), problems);
+        Level level = compileLevel(tiled, types_, SourceAssets(assets), problems);
         lines = problems.lines();
         return level;
     }
@@ -121,8 +115,8 @@ TEST_F(LevelCompilerTest, NamesEachFaultWithItsObject) {
          thing + "property wavefile: data/waves/workshop.xml triggers wave_"},
         {start + object("trigger", "targets=start,gate"),
          thing + "property targets: there is no object named gate"},
-        {start + object("blockboss", "adds1=gate"),
-         thing + "property adds1: there is no object named gate"},
+        {start + object("racestart", "endbody=gate"),
+         thing + "property endbody: there is no object named gate"},
         {start + object("spawner", "spawnedtype=player"), thing + "property spawnedtype: there is"},
         {start + object("spawner", "spawnedtype=dragon"),
          thing + "property spawnedtype: there is no body type dragon"},

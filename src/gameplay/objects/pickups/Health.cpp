@@ -16,7 +16,7 @@ Health::Health() {
 
 void Health::fields(BodyFields& f) {
     RespawnableBody::fields(f);
-    f.param("amount", amount, "Health that it gives.");
+    f.param("amount", amount, "Health that it gives.").onlyIf(hasAmount());
 }
 
 bool Health::wanted(Player& player) const {

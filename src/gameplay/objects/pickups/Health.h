@@ -16,6 +16,8 @@ class Health : public Creatable<Health, RespawnableBody> {
     int amount = 50;
 
   protected:
+    /// False for one whose amount is not a level's to set.
+    [[nodiscard]] virtual bool hasAmount() const { return true; }
     [[nodiscard]] bool wanted(Player& player) const override;
     void give(Player& player) override;
     void pickupFeedback() override;

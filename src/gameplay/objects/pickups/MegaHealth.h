@@ -18,6 +18,7 @@ class MegaHealth final : public Creatable<MegaHealth, Health> {
     void respawn() override;
 
   protected:
+    [[nodiscard]] bool hasAmount() const override { return false; }
     void give(Player& player) override;
     void pickupFeedback() override;
 
