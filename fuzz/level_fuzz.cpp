@@ -57,11 +57,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const bool restoring : {false, true}) {
         bc::World world;
         bc::LevelBodies bodies;
-        if (!bc::readSavedBodies(factory, *root, bodies))
+        if (!bc::readSavedBodies(factory, *root, "save", bodies))
             return 0;
         if (restoring) {
             bc::LevelBodies level;
-            bc::readSavedBodies(factory, *root, level);
+            bc::readSavedBodies(factory, *root, "save", level);
             bc::shapeIndex(world, level);
         }
         bc::insertBodies(world, std::move(bodies), restoring);
@@ -79,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         bc::saveOrder(world, written);
         bc::dumpBodies(world, written);
         bc::LevelBodies again;
-        bc::readSavedBodies(factory, written, again);
+        bc::readSavedBodies(factory, written, "save", again);
     }
     return 0;
 }

@@ -109,7 +109,7 @@ bool Game::loadGame(const std::string& name) {
     const std::string level = xml::readString(*root, "currentlevel");
     std::optional<LevelBodies> bodies = readLevel(*bodyFactory_, level);
     LevelBodies entities;
-    if (!bodies || !readSavedBodies(*bodyFactory_, *root, entities))
+    if (!bodies || !readSavedBodies(*bodyFactory_, *root, path, entities))
         return refuse();
 
     saveName_ = name;

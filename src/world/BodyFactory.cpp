@@ -4,6 +4,7 @@
 
 #include "core/Log.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace bc {
@@ -15,6 +16,12 @@ void BodyFactory::registerDefaults() {
 void BodyFactory::registerPrototype(std::unique_ptr<Body> prototype) {
     if (prototype)
         prototypes_.push_back(std::move(prototype));
+}
+
+bool BodyFactory::knows(const std::string& type) const {
+    const bool own = std::ranges::any_of(
+        prototypes_, [&type](const auto& prototype) { return prototype->type == type; });
+    return own || (fallback_ != nullptr && fallback_ != this && fallback_->knows(type));
 }
 
 std::unique_ptr<Body> BodyFactory::tryCreate(const std::string& type) {

@@ -14,6 +14,7 @@ namespace bc {
 class BodyCreator {
   public:
     virtual ~BodyCreator() = default;
+    [[nodiscard]] virtual bool knows(const std::string& type) const = 0;
     /// Never null: an unknown type gives a plain body, and a line in the log.
     [[nodiscard]] virtual std::unique_ptr<Body> create(const std::string& type) = 0;
 };
@@ -30,6 +31,7 @@ class BodyFactory : public BodyCreator {
     virtual void registerDefaults();
     /// Prototypes are searched in the order of their registration.
     void registerPrototype(std::unique_ptr<Body> prototype);
+    [[nodiscard]] bool knows(const std::string& type) const override;
     [[nodiscard]] std::unique_ptr<Body> create(const std::string& type) override;
     /// Null when neither this factory nor its fallback knows the type.
     [[nodiscard]] std::unique_ptr<Body> tryCreate(const std::string& type);

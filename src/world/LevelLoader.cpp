@@ -34,14 +34,17 @@ constexpr std::size_t maxTargets = 1024;
 using BodiesByName = std::unordered_map<std::string, std::vector<Body*>>;
 
 /// Reads the P elements; loadState is called for those with a custom child when withState is set.
-void readObjects(BodyCreator& factory, const TiXmlElement& objects, bool skipEntities,
-                 bool withState, LevelBodies& out) {
+void readObjects(BodyCreator& factory, const TiXmlElement& objects, const std::string& file,
+                 bool skipEntities, bool withState, LevelBodies& out) {
     for (const TiXmlElement* p = objects.FirstChildElement("P"); p != nullptr;
          p = p->NextSiblingElement("P")) {
         if (out.size() >= static_cast<std::size_t>(levelformat::maxBodies)) {
             logLine("Refused the bodies beyond " + std::to_string(levelformat::maxBodies));
             return;
         }
+        if (const std::string type = xml::readString(*p, "type"); !factory.knows(type))
+            logLine(file + ": object " + xml::readString(*p, "idname") +
+                    " has the unknown type \"" + type + "\"; a plain body stands in for it");
         std::unique_ptr<Body> body = levelformat::readBody(
             factory, *p, skipEntities, withState ? Digits::exact : Digits::usual);
         if (!body)
@@ -112,15 +115,16 @@ std::optional<LevelBodies> readLevel(BodyCreator& factory, std::string_view name
     }
     LevelBodies bodies;
     if (const TiXmlElement* objects = document.RootElement()->FirstChildElement("Objects"))
-        readObjects(factory, *objects, skipEntities, false, bodies);
+        readObjects(factory, *objects, path, skipEntities, false, bodies);
     return bodies;
 }
 
-bool readSavedBodies(BodyCreator& factory, const TiXmlElement& root, LevelBodies& out) {
+bool readSavedBodies(BodyCreator& factory, const TiXmlElement& root, const std::string& file,
+                     LevelBodies& out) {
     const TiXmlElement* objects = root.FirstChildElement("Objects");
     if (objects == nullptr)
         return false;
-    readObjects(factory, *objects, false, true, out);
+    readObjects(factory, *objects, file, false, true, out);
     return true;
 }
 

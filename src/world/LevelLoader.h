@@ -31,9 +31,10 @@ using LevelBodies = std::vector<std::unique_ptr<Body>>;
 [[nodiscard]] std::optional<LevelBodies> readLevel(BodyCreator& factory, std::string_view name,
                                                    bool skipEntities = false);
 /// Reads the bodies under the root's Objects elements, with the state in their custom children, and
-/// appends them. Numbers are read exactly. False when the root
-/// has no Objects element.
-bool readSavedBodies(BodyCreator& factory, const TiXmlElement& root, LevelBodies& out);
+/// appends them. Numbers are read exactly. file is named in messages. False when the root has no
+/// Objects element.
+bool readSavedBodies(BodyCreator& factory, const TiXmlElement& root, const std::string& file,
+                     LevelBodies& out);
 
 /// Gives the world's index the shape that it has when the level begins, with nothing in it, and
 /// then takes the entities out of the bodies: for saves, which hold their own.

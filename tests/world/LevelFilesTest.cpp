@@ -119,7 +119,7 @@ TEST_F(LevelFilesTest, AWrittenBodyReadsBackTheSame) {
     TiXmlElement root("save");
     saveEntities(world, root);
     LevelBodies read;
-    ASSERT_TRUE(readSavedBodies(factory, root, read));
+    ASSERT_TRUE(readSavedBodies(factory, root, "save", read));
     ASSERT_EQ(read.size(), 1U);
     TiXmlElement before("x");
     TiXmlElement after("x");

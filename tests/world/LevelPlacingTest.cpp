@@ -140,7 +140,7 @@ TEST_F(LevelPlacingTest, ASaveTakesEntitiesFromItselfAndTheRestFromTheLevel) {
     logOf([&] { bodies = readLevel(game, "sub/l", true); });
     ASSERT_TRUE(bodies);
     EXPECT_EQ(bodies->size(), 1U);
-    ASSERT_TRUE(readSavedBodies(game, save, *bodies));
+    ASSERT_TRUE(readSavedBodies(game, save, "save", *bodies));
     insertBodies(world, std::move(*bodies), true);
     ASSERT_EQ(world.allBodies().size(), 2U);
     const Body& restored = *world.allBodies()[1];
@@ -151,7 +151,7 @@ TEST_F(LevelPlacingTest, ASaveTakesEntitiesFromItselfAndTheRestFromTheLevel) {
     EXPECT_FLOAT_EQ(restored.bounds.maxX, 515);
     EXPECT_FLOAT_EQ(restored.vel.y, 8);
     EXPECT_EQ(hooks[2], "enemy restored 0");
-    EXPECT_FALSE(readSavedBodies(game, TiXmlElement("save"), *bodies));
+    EXPECT_FALSE(readSavedBodies(game, TiXmlElement("save"), "save", *bodies));
 }
 
 TEST_F(LevelPlacingTest, CountsAreBounded) {

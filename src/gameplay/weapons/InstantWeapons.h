@@ -6,19 +6,20 @@
 
 namespace bc {
 
-// The weapons whose shots arrive as they are fired. They differ in their numbers, in whether the
-// shots scatter, in how many a pull of the trigger fires and in what is seen and heard of it.
+// The weapons whose shots arrive as they are fired, with the numbers of the definitions in force.
+// They differ in their numbers, in whether the shots scatter, in how many a pull of the trigger
+// fires and in what is seen and heard of it.
 
 class PistolWeapon final : public FireableWeapon {
   public:
-    PistolWeapon() : FireableWeapon(500, 20, 20) {}
+    PistolWeapon() { PistolWeapon::applyDefinitions(); }
     bool fire(GameBody* shooter, const Vector& position, const Vector& aim, float time) override;
     void applyDefinitions() override;
 };
 
 class PlasmaWeapon final : public FireableWeapon {
   public:
-    PlasmaWeapon() : FireableWeapon(66, 10, 5) {}
+    PlasmaWeapon() { PlasmaWeapon::applyDefinitions(); }
     bool fire(GameBody* shooter, const Vector& position, const Vector& aim, float time) override;
     void applyDefinitions() override;
 };
@@ -28,18 +29,18 @@ class ShotgunWeapon final : public FireableWeapon {
     /// More pellets than this are not fired at once, whatever the definitions say.
     static constexpr int maxShots = 100;
 
-    ShotgunWeapon() : FireableWeapon(800, 8, 10) {}
+    ShotgunWeapon() { ShotgunWeapon::applyDefinitions(); }
     bool fire(GameBody* shooter, const Vector& position, const Vector& aim, float time) override;
     void applyDefinitions() override;
     void dumpState(TiXmlElement& e) const override;
 
     /// Pellets a shot.
-    int shots = 10;
+    int shots = 0;
 };
 
 class ChaingunWeapon final : public FireableWeapon {
   public:
-    ChaingunWeapon() : FireableWeapon(100, 20, 12) {}
+    ChaingunWeapon() { ChaingunWeapon::applyDefinitions(); }
     bool fire(GameBody* shooter, const Vector& position, const Vector& aim, float time) override;
     void applyDefinitions() override;
 };
@@ -47,7 +48,7 @@ class ChaingunWeapon final : public FireableWeapon {
 /// Shoots through every game body in its way.
 class RailgunWeapon final : public FireableWeapon {
   public:
-    RailgunWeapon() : FireableWeapon(1000, 60, 100) {}
+    RailgunWeapon() { RailgunWeapon::applyDefinitions(); }
     bool fire(GameBody* shooter, const Vector& position, const Vector& aim, float time) override;
     void applyDefinitions() override;
 };
@@ -55,7 +56,7 @@ class RailgunWeapon final : public FireableWeapon {
 /// Hums from the first shot until the trigger is let go.
 class LightningWeapon final : public FireableWeapon {
   public:
-    LightningWeapon() : FireableWeapon(900, 0, 0) {}
+    LightningWeapon() { LightningWeapon::applyDefinitions(); }
     ~LightningWeapon() override;
     bool fire(GameBody* shooter, const Vector& position, const Vector& aim, float time) override;
     void unfire(float time) override;

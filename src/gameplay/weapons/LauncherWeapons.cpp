@@ -69,11 +69,8 @@ void LauncherWeapon::dumpState(TiXmlElement& e) const {
     xml::writeFloat(e, "projectileknockback", projectileKnockback);
 }
 
-RocketWeapon::RocketWeapon() : LauncherWeapon(900, 3, 110) {
-    projectileSpeed = 400;
-    projectileDamage = 110;
-    projectileRadius = 32;
-    projectileKnockback = 3;
+RocketWeapon::RocketWeapon() {
+    RocketWeapon::applyDefinitions();
 }
 
 bool RocketWeapon::fire(GameBody* shooter, const Vector& position, const Vector& aim, float time) {
@@ -97,11 +94,9 @@ void RocketWeapon::applyDefinitions() {
     knockback = projectileKnockback = d.knockback;
 }
 
-GrenadeWeapon::GrenadeWeapon() : LauncherWeapon(800, 0, 0) {
-    projectileSpeed = 170;
-    projectileDamage = 120;
-    projectileRadius = 32;
+GrenadeWeapon::GrenadeWeapon() {
     projectileKnockback = 1;
+    GrenadeWeapon::applyDefinitions();
 }
 
 bool GrenadeWeapon::fire(GameBody* shooter, const Vector& position, const Vector& aim, float time) {

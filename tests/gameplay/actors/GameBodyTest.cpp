@@ -280,7 +280,7 @@ void reload(World& world, BodyFactory& factory) {
     world.clear();
     world.quadtree().init(Vector(), 2000, 2);
     LevelBodies bodies;
-    ASSERT_TRUE(readSavedBodies(factory, root, bodies));
+    ASSERT_TRUE(readSavedBodies(factory, root, "save", bodies));
     insertBodies(world, std::move(bodies), true);
     world.addBody(player, false);
 }

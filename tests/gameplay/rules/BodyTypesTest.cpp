@@ -180,7 +180,7 @@ TEST_F(BodyTypesTest, ASaveBringsEveryFieldBack) {
         TiXmlElement* p = levelformat::writeBody(*body, *objects, Digits::exact);
         levelformat::writeShape(*body, *p->FirstChildElement("custom"));
         LevelBodies restored;
-        logOf([&] { readSavedBodies(*gameplay->getFactory(), save, restored); });
+        logOf([&] { readSavedBodies(*gameplay->getFactory(), save, "save", restored); });
         ASSERT_EQ(restored.size(), 1U);
         Body& twin = *restored.front();
         EXPECT_EQ(typeid(twin), typeid(*body));

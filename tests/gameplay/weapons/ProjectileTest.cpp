@@ -270,7 +270,7 @@ TEST_F(ProjectileTest, SavesKeepProjectilesInFlightButNotTheHook) {
     saveEntities(game.world, root);
     endLevel();
     LevelBodies bodies;
-    ASSERT_TRUE(readSavedBodies(*gameplay->getFactory(), root, bodies));
+    ASSERT_TRUE(readSavedBodies(*gameplay->getFactory(), root, "save", bodies));
     EXPECT_EQ(bodies.size(), 2U);
     insertBodies(game.world, std::move(bodies), true);
     auto* rocket = find<RocketProjectile>("rocketprojectile");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "gameplay/objects/triggers/Spawner.h"
 
+#include "core/Log.h"
 #include "core/Text.h"
 #include "gameplay/actors/Effects.h"
 #include "gameplay/actors/GameCategories.h"
@@ -68,8 +69,11 @@ void Spawner::spawn() {
         return;
     std::unique_ptr<Body> made = rules->createBody(spawnedType);
     auto* child = dynamic_cast<GameBody*>(made.get());
-    if (child == nullptr)
+    if (child == nullptr) {
+        logLine("Spawner " + id + ": there is no body type \"" + spawnedType +
+                "\" to spawn; nothing is made");
         return;
+    }
     (void)made.release();
     std::unique_ptr<GameBody> owned(child);
     child->makeDefaultShape();
