@@ -22,14 +22,19 @@ class TiXmlElement;
 
 namespace bc {
 
+class BodyFactory;
+class Console;
+class GameInput;
 class GameplayInput;
 class GameVar;
+class IGameplay;
+class IRenderer;
 class Player;
 class Sound;
 
 /// The application object: owns every subsystem, starts them in their order, runs the main loop
 /// with its fixed simulation step, loads levels and saves, and draws the scene. One instance at a
-/// time; everything below sees it through core/IGame.h.
+/// time; everything below sees it through ports/IGame.h.
 class Game final : public IGame {
   public:
     /// Seconds of one simulation step and of one particle step.
@@ -85,40 +90,28 @@ class Game final : public IGame {
     /// Writes key bindings and variables; path as files::replace takes it.
     bool writeConfig(const std::string& path, bool automatic);
 
-    // Subsystems.
-    ISound* getSound() override;
-    IRenderer* getRenderer() override { return renderer_.get(); }
-    InputManager* getInputManager() override { return &input_; }
-    IGUI* getGUIManager() override;
-    Console* getConsole() override { return console_.get(); }
-    GameInput* getGameInput() override;
-    BasicTimer* getTimer() override { return &frameClock_; }
-    SkyManager* getSkyManager() override { return &skyManager_; }
-    Body* getPlayer() override;
-    void setPlayer(Body* player) override;
-    BodyFactory* getBodyFactory() override { return bodyFactory_.get(); }
-    IGameplay* getGameplay() override { return gameplay_.get(); }
+    // What the floors below see.
     World& getWorld() override { return world_; }
-
-    // Requests.
+    SkyManager* getSkyManager() override { return &skyManager_; }
     void requestMapLoad(const std::string& name, const std::string& spawnName) override;
     bool isMapLoadPending() const override { return mapLoadPending_; }
+    const std::string& getCurrentLevel() const override { return currentLevel_; }
+    bool isLevelLoaded() const override { return levelLoaded_; }
+    void setWorldActive(bool active) override { worldActive_ = active; }
+    void showCutscene(const std::string& name) override;
     void requestSave() override { requestSaveAs(saveName_); }
     void requestLoadGame(const std::string& name) override;
-    void showCutscene(const std::string& name) override;
-    void pauseGame() override;
-    void resumeGame() override;
-    void setQuit(bool quit) override { quitRequested_ = quit; }
-    const std::string& getCurrentLevel() const override { return currentLevel_; }
     const std::string& getSaveName() const override { return saveName_; }
-    void setSaveName(const std::string& name) override { saveName_ = name; }
-    bool isLevelLoaded() const override { return levelLoaded_; }
-    bool isWorldActive() const override { return worldActive_; }
-    void setWorldActive(bool active) override { worldActive_ = active; }
-    bool isPaused() const override { return paused_; }
+    void setQuit(bool quit) override { quitRequested_ = quit; }
     void setOverlay(std::unique_ptr<OverlayEffect> overlay) override;
-    void endOverlay() override;
-    void startFadeIn() override;
+
+    IRenderer* getRenderer() { return renderer_.get(); }
+    BasicTimer* getTimer() { return &frameClock_; }
+    GameInput* getGameInput();
+    void pauseGame();
+    void resumeGame();
+    void endOverlay();
+    void startFadeIn();
 
   private:
     friend class GameDumps;

@@ -10,15 +10,16 @@
 #include "core/Text.h"
 #include "gameplay/actors/GameplaySingleton.h"
 #include "gameplay/actors/Race.h"
+#include "gameplay/actors/Rules.h"
 #include "gameplay/actors/Sight.h"
 #include "gameplay/player/GameplayInput.h"
 #include "gameplay/player/Player.h"
-#include "gameplay/rules/DefaultGameplay.h"
 #include "gui/GUIManager.h"
 #include "hud/GameHUD.h"
 #include "hud/OverlayEffect.h"
 #include "input/Console.h"
 #include "particles/ParticleManager.h"
+#include "ports/IGameplay.h"
 #include "ports/IRenderer.h"
 #include "resources/FileSystem.h"
 #include "resources/XmlAttributes.h"
@@ -100,11 +101,6 @@ std::optional<int> readId(const std::string& text) {
     return isWhole ? std::optional(id) : std::nullopt;
 }
 
-int gibCount(const GameplaySingleton& play) {
-    const auto* rules = dynamic_cast<const DefaultGameplay*>(play.rules);
-    return rules != nullptr ? rules->gibCount() : 0;
-}
-
 std::string boxText(const Vector& v) {
     return formatFloat(v.x) + ',' + formatFloat(v.y);
 }
@@ -142,7 +138,7 @@ void GameDumps::dumpWorld(const std::string& file) {
     xml::writeBool(root, "levelloaded", game_.levelLoaded_);
     xml::writeString(root, "pendingmap", game_.mapLoadPending_ ? game_.pendingMapName_ : "");
     xml::writeBool(root, "pendingsave", game_.savePending_);
-    xml::writeInt(root, "gibs", gibCount(play));
+    xml::writeInt(root, "gibs", game_.gameplay_->gibCount());
     dumpBodies(game_.world_, root);
     writeParticles(root);
     TiXmlElement& hud = child(root, "Hud");

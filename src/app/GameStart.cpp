@@ -80,12 +80,6 @@ Game::~Game() {
         SDL_Quit();
 }
 
-ISound* Game::getSound() {
-    return sound_.get();
-}
-IGUI* Game::getGUIManager() {
-    return gui_.get();
-}
 GameInput* Game::getGameInput() {
     return gameInput_.get();
 }
@@ -228,15 +222,6 @@ bool Game::deleteGameplay() {
     gameplay_->shutdown();
     gameplay_.reset();
     return false;
-}
-
-Body* Game::getPlayer() {
-    return player_.get();
-}
-
-void Game::setPlayer(Body* player) {
-    // The application keeps one player for its whole run; only the world's view can change.
-    world_.setPlayer(player);
 }
 
 void Game::shutdown() {

@@ -20,37 +20,19 @@ class FakeGame final : public IGame {
     bool quit = false;
 
     bool isLevelLoaded() const override { return levelLoaded; }
-    bool isWorldActive() const override { return worldActive; }
     void setWorldActive(bool active) override { worldActive = active; }
     void setQuit(bool value) override { quit = value; }
 
-    ISound* getSound() override { return nullptr; }
-    IRenderer* getRenderer() override { return nullptr; }
-    InputManager* getInputManager() override { return nullptr; }
-    IGUI* getGUIManager() override { return nullptr; }
-    Console* getConsole() override { return nullptr; }
-    GameInput* getGameInput() override { return nullptr; }
-    BasicTimer* getTimer() override { return nullptr; }
-    SkyManager* getSkyManager() override { return nullptr; }
-    Body* getPlayer() override { return nullptr; }
-    void setPlayer(Body*) override {}
-    BodyFactory* getBodyFactory() override { return nullptr; }
-    IGameplay* getGameplay() override { return nullptr; }
     World& getWorld() override { std::abort(); }
+    SkyManager* getSkyManager() override { return nullptr; }
     void requestMapLoad(const std::string&, const std::string&) override {}
     bool isMapLoadPending() const override { return false; }
+    const std::string& getCurrentLevel() const override { return none_; }
+    void showCutscene(const std::string&) override {}
     void requestSave() override {}
     void requestLoadGame(const std::string&) override {}
-    void showCutscene(const std::string&) override {}
-    void pauseGame() override {}
-    void resumeGame() override {}
-    const std::string& getCurrentLevel() const override { return none_; }
     const std::string& getSaveName() const override { return none_; }
-    void setSaveName(const std::string&) override {}
-    bool isPaused() const override { return false; }
     void setOverlay(std::unique_ptr<OverlayEffect>) override {}
-    void endOverlay() override {}
-    void startFadeIn() override {}
 
   private:
     std::string none_;

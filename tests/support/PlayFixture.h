@@ -37,9 +37,6 @@ class FakePlayGame final : public IGame {
     World world;
     FakeSound sound;
     BasicTimer timer;
-    Body* player = nullptr;
-    IGameplay* gameplay = nullptr;
-    IRenderer* renderer = nullptr;
     SkyManager* sky = nullptr;
     std::unique_ptr<OverlayEffect> overlay;
     int overlays = 0;
@@ -51,42 +48,24 @@ class FakePlayGame final : public IGame {
     std::string saveName;
     bool mapLoadPending = false;
 
-    ISound* getSound() override { return &sound; }
-    IRenderer* getRenderer() override { return renderer; }
-    InputManager* getInputManager() override { return nullptr; }
-    IGUI* getGUIManager() override { return nullptr; }
-    Console* getConsole() override { return nullptr; }
-    GameInput* getGameInput() override { return nullptr; }
-    BasicTimer* getTimer() override { return &timer; }
-    SkyManager* getSkyManager() override { return sky; }
-    Body* getPlayer() override { return player; }
-    void setPlayer(Body* body) override { player = body; }
-    BodyFactory* getBodyFactory() override { return nullptr; }
-    IGameplay* getGameplay() override { return gameplay; }
     World& getWorld() override { return world; }
+    SkyManager* getSkyManager() override { return sky; }
     void requestMapLoad(const std::string& name, const std::string& spawn) override {
         mapRequests.push_back(name + '@' + spawn);
     }
     bool isMapLoadPending() const override { return mapLoadPending; }
+    const std::string& getCurrentLevel() const override { return level; }
+    bool isLevelLoaded() const override { return true; }
+    void setWorldActive(bool) override {}
+    void showCutscene(const std::string& name) override { cutscenes.push_back(name); }
     void requestSave() override { ++saveRequests; }
     void requestLoadGame(const std::string& name) override { loadRequests.push_back(name); }
-    void showCutscene(const std::string& name) override { cutscenes.push_back(name); }
-    void pauseGame() override {}
-    void resumeGame() override {}
-    void setQuit(bool) override {}
-    const std::string& getCurrentLevel() const override { return level; }
     const std::string& getSaveName() const override { return saveName; }
-    void setSaveName(const std::string& name) override { saveName = name; }
-    bool isLevelLoaded() const override { return true; }
-    bool isWorldActive() const override { return true; }
-    void setWorldActive(bool) override {}
-    bool isPaused() const override { return false; }
+    void setQuit(bool) override {}
     void setOverlay(std::unique_ptr<OverlayEffect> effect) override {
         overlay = std::move(effect);
         ++overlays;
     }
-    void endOverlay() override { overlay.reset(); }
-    void startFadeIn() override {}
 };
 
 /// Lines that play writes to the console.
@@ -126,7 +105,6 @@ class PlayFixture : public TestFolders {
         bundle->game = &game;
         bundle->sound = &game.sound;
         bundle->timer = &game.timer;
-        game.gameplay = gameplay.get();
         gameplay->setScreenSize(1024, 768);
         logOf([&] { gameplay->init(std::move(bundle)); });
         input.init();
@@ -137,7 +115,6 @@ class PlayFixture : public TestFolders {
         player->autoid = World::playerId;
         player->makeBox(16, 16);
         player->computeBounds();
-        game.player = player;
         game.world.setPlayer(player);
         game.world.quadtree().init(Vector(), 2000, 2);
         startLevel();

@@ -14,6 +14,7 @@ namespace bc {
 
 class GameHUD;
 class GameVar;
+class SpawnPoint;
 
 /// The rules of play: level start and end, the step of every body, spawn points, the level and race
 /// clocks, the gib budget and the developer commands. One exists, owned by the application.
@@ -34,8 +35,8 @@ class DefaultGameplay final : public IGameplay, public Rules {
     void endLevel() override;
     void draw() override;
     void drawHud(IRenderer& renderer, float dt) override;
-    SpawnPoint* nearestSpawnPoint(const Body& body) override;
-    SpawnPoint* startSpawnPoint() override;
+    SpawnPoint* nearestSpawnPoint(const Body& body);
+    SpawnPoint* startSpawnPoint();
     std::unique_ptr<GameplayInput> createInputTarget() override;
     void setScreenSize(int width, int height) override;
     void saveGameplayState(TiXmlElement& node) override;
@@ -44,8 +45,8 @@ class DefaultGameplay final : public IGameplay, public Rules {
     void tickClock() override;
     void pause() override;
     void resume() override;
-    void resetPlayerProgress() override;
-    SpawnPoint* findSpawnPoint(const std::string& id) override;
+    void resetPlayerProgress();
+    SpawnPoint* findSpawnPoint(const std::string& id);
     void reserveGibs(int& count) override;
 
     void returnGib() override;
@@ -53,7 +54,7 @@ class DefaultGameplay final : public IGameplay, public Rules {
     void floatText(const Vector& position, std::string_view text, int size, bool shadow,
                    float scale, const std::string& font) override;
     Race& race() override { return race_; }
-    [[nodiscard]] int gibCount() const { return gibCount_; }
+    [[nodiscard]] int gibCount() const override { return gibCount_; }
     [[nodiscard]] const Race& race() const { return race_; }
 
   private:
