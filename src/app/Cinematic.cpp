@@ -2,54 +2,63 @@
 // SPDX-License-Identifier: MIT
 #include "app/Cinematic.h"
 
-#include "app/Game.h"
+#include "app/EventPump.h"
+#include "app/EventRouter.h"
+#include "app/PassClock.h"
+#include "app/Presenter.h"
+#include "app/Subsystems.h"
 #include "ports/IRenderer.h"
 
 namespace bc {
 
 namespace {
 
-// A key still held from starting the program does not skip the scene.
+/// Seconds. A key still held from starting the program does not skip the scene.
 constexpr float skipAfter = 0.3F;
 
 }  // namespace
 
-Cinematic::Cinematic(Game& game) : game_(game) {}
+Cinematic::Cinematic(Subsystems& subsystems, const PassClock& clock, EventPump& pump,
+                     EventRouter& router, Presenter& presenter)
+    : renderer_(subsystems.renderer()),
+      frameClock_(subsystems.frameClock()),
+      passClock_(clock),
+      pump_(pump),
+      router_(router),
+      presenter_(presenter) {}
 
 void Cinematic::run() {
     active_ = true;
-    game_.getTimer()->restart();
-    timer_.restart();
+    frameClock_.restart();
     while (active_) {
         beginFrame();
-        frame(game_.getTimer()->frameSeconds());
+        frame(frameClock_.frameSeconds());
         endFrame();
     }
 }
 
 void Cinematic::beginFrame() {
-    game_.advanceClock();
-    game_.tickClock();
-    elapsed_ += game_.getTimer()->frameSeconds();
-    game_.getRenderer()->beginFrame();
+    passClock_.beginPass();
+    frameClock_.tick();
+    elapsed_ += frameClock_.frameSeconds();
+    renderer_.beginFrame();
     pumpEvents();
 }
 
 void Cinematic::pumpEvents() {
     SDL_Event event;
-    while (game_.pollEvent(event)) {
-        if (!skippable_)
-            continue;
+    while (pump_.poll(event)) {
         switch (event.type) {
             case SDL_QUIT:
-                game_.setQuit(true);
-                active_ = false;
+                router_.setQuit(true);
+                end();
                 break;
             case SDL_KEYDOWN:
             case SDL_KEYUP:
             case SDL_MOUSEBUTTONDOWN:
             case SDL_MOUSEBUTTONUP:
-                active_ = active_ && elapsed_ <= skipAfter;
+                if (elapsed_ > skipAfter)
+                    end();
                 break;
             default:
                 break;
@@ -58,11 +67,8 @@ void Cinematic::pumpEvents() {
 }
 
 void Cinematic::endFrame() {
-    timer_.tick();
-    if (timer_.elapsed() >= timer_.rate)
-        timer_.restart();
-    game_.getRenderer()->endFrame();
-    game_.countFrame();
+    renderer_.endFrame();
+    presenter_.countFrame();
 }
 
 }  // namespace bc

@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: The Brightclash developers
 // SPDX-License-Identifier: MIT
-// The configuration file: what is bound and set, as command lines.
-#include "app/Game.h"
+#include "app/ConfigFile.h"
+
+#include "app/CommandFile.h"
+#include "command/CommandRegistry.h"
 #include "command/GameVar.h"
 #include "gameplay/player/GameplayInput.h"
 #include "resources/FileSystem.h"
 
+#include <locale>
 #include <sstream>
 
 namespace bc {
@@ -25,11 +28,32 @@ constexpr const char* userHeader =
 
 }  // namespace
 
-bool Game::writeConfig(const std::string& path, bool automatic) {
+void registerConfigCommands(const GameplayInput& input) {
+    commands().registerCommand("write all keybinds and variables to a config file", "writeconfig",
+                               [&input] {
+                                   const bool named = commands().argCount() >= 1;
+                                   const std::string path = commands().arg(0, usualPath);
+                                   if (writeConfig(input, path, !named))
+                                       consolePrint("Wrote keybinds and variables to " + path);
+                                   else
+                                       reportUnwritable(path);
+                               });
+}
+
+void executeConfigFiles() {
+    commands().execute("exec config.txt");
+    // The user's own settings run twice, so that a toggling command in them changes nothing.
+    commands().execute("exec userconfig.txt");
+    commands().execute("exec userconfig.txt");
+    if (files::resolve("data/autoexec.txt"))
+        commands().execute("exec autoexec.txt");
+}
+
+bool writeConfig(const GameplayInput& input, const std::string& path, bool automatic) {
     std::ostringstream text;
     text.imbue(std::locale::classic());
     text << (!automatic && path != usualPath ? userHeader : automaticHeader);
-    gameInput_->writeBindings(text);
+    input.writeBindings(text);
     vars().writeVariables(text);
     return files::replace(path, text.str());
 }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/GameLogoScene.h"
 
-#include "app/Game.h"
 #include "ports/FontRenderer.h"
 #include "ports/IRenderer.h"
 
@@ -10,8 +9,9 @@ namespace bc {
 
 namespace {
 
-// Alpha units a second, and seconds at full brightness.
+/// Units of alpha a second.
 constexpr float fadeSpeed = 80;
+/// At full brightness.
 constexpr float holdSeconds = 2;
 
 }  // namespace
@@ -23,34 +23,34 @@ void GameLogoScene::frame(float dt) {
 
 void GameLogoScene::fade(float dt) {
     if (alpha_ < 0 && fadingOut_)
-        active_ = false;
+        end();
     if (alpha_ > 255) {
         alpha_ = 255;
         fadingOut_ = true;
-        holdUntil_ = elapsed_ + holdSeconds;
+        holdUntil_ = elapsed() + holdSeconds;
     }
     if (alpha_ < 0) {
         alpha_ = 0;
         fadingOut_ = false;
     }
-    if (elapsed_ > holdUntil_)
+    if (elapsed() > holdUntil_)
         alpha_ += (fadingOut_ ? -1.0F : 1.0F) * dt * fadeSpeed;
 }
 
 void GameLogoScene::draw() {
-    IRenderer& renderer = *game_.getRenderer();
-    const int width = renderer.getWidth();
-    const int height = renderer.getHeight();
-    renderer.begin2D();
-    renderer.setBlending(true);
-    renderer.getFontRenderer()->setFont("vera", 24);
-    renderer.setTexturing(true);
-    renderer.setColour(255, 255, 255, static_cast<int>(alpha_));
-    renderer.drawImage(static_cast<float>(width / 2 - 307), static_cast<float>(height / 2 + 125), 0,
-                       614, 125, "data/images/brightclashprod.png", false, true);
-    renderer.drawImage(static_cast<float>(width / 2 - 221), static_cast<float>(height / 2 - 68), 0,
-                       443, 68, "data/images/mglogo.png", false, true);
-    renderer.end2D();
+    IRenderer& screen = renderer();
+    const int width = screen.getWidth();
+    const int height = screen.getHeight();
+    screen.begin2D();
+    screen.setBlending(true);
+    screen.getFontRenderer()->setFont("vera", 24);
+    screen.setTexturing(true);
+    screen.setColour(255, 255, 255, static_cast<int>(alpha_));
+    screen.drawImage(static_cast<float>(width / 2 - 307), static_cast<float>(height / 2 + 125), 0,
+                     614, 125, "data/images/brightclashprod.png", false, true);
+    screen.drawImage(static_cast<float>(width / 2 - 221), static_cast<float>(height / 2 - 68), 0,
+                     443, 68, "data/images/mglogo.png", false, true);
+    screen.end2D();
 }
 
 }  // namespace bc

@@ -6,7 +6,7 @@
 
 namespace bc {
 
-/// The logos at the start: in over 3.2 s, held for 2 s, out again.
+/// The logos at the start: they appear within 3.2 s, stand for 2 s and fade within 3.2 s.
 class GameLogoScene final : public Cinematic {
   public:
     using Cinematic::Cinematic;
@@ -18,9 +18,10 @@ class GameLogoScene final : public Cinematic {
     void fade(float dt);
     void draw();
 
+    /// From 0 to 255; a little beyond either for one frame, which turns the fade.
     float alpha_ = 0;
     bool fadingOut_ = false;
-    /// Seconds of elapsed_ until which the picture stands.
+    /// Seconds since the scene began, until which the picture stands.
     float holdUntil_ = 0;
 };
 

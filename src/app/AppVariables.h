@@ -2,17 +2,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Game.h"
 #include "command/GameVar.h"
 
 namespace bc {
 
-/// The variables that the application reads, bound once by name and read whenever needed.
-struct Game::Handles {
+/// The variables that the application reads, found once by name. Null until bind; the registry owns
+/// them.
+struct AppVariables {
+    /// Finds all of them. One that data/gamevars.xml does not declare is made with the value 0, and
+    /// the log names it.
+    void bind();
+
     GameVar* chasecam = nullptr;
     GameVar* gravity = nullptr;
     GameVar* frustumcull = nullptr;
     GameVar* frustumcull2 = nullptr;
+    /// Declared for config files; nothing reads it.
     GameVar* collideoutsidefrustum = nullptr;
     GameVar* drawgrid = nullptr;
     GameVar* drawboundingspheres = nullptr;
@@ -27,9 +32,6 @@ struct Game::Handles {
     GameVar* movierecord = nullptr;
     GameVar* camoffset = nullptr;
     GameVar* difficulty = nullptr;
-
-    /// 0 while the variable is not bound.
-    static int intOf(const GameVar* v) { return v != nullptr ? v->intValue() : 0; }
 };
 
 }  // namespace bc
