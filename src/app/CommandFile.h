@@ -7,11 +7,11 @@
 
 namespace bc {
 
-/// Replaces a file of the user folder that a console command was told to write. When that fails
-/// the console says so (the log says why), and the result is false.
+/// Replaces a file of the user folder on behalf of a console command. False when that fails: the
+/// console says so, and the log says why.
 bool writeCommandFile(const std::string& name, std::string_view contents);
 
-/// What the console says then.
+/// Prints to the console that the file cannot be written.
 void reportUnwritable(const std::string& name);
 
 }  // namespace bc

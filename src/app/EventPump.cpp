@@ -13,8 +13,8 @@ namespace {
 
 constexpr int shiftKeys = KMOD_LSHIFT | KMOD_RSHIFT;
 
-/// The character that a key of the given code types, as the window system would report it. Shift
-/// counts for letters; what it makes of other keys depends on the keyboard.
+/// The character that the window system would report for a key press, 0 for none. Shift changes
+/// letters only: its effect on other keys depends on the keyboard layout.
 int characterOf(int sym, int modifiers) {
     switch (sym) {
         case SDLK_RETURN:
@@ -33,7 +33,7 @@ int characterOf(int sym, int modifiers) {
     return sym >= 32 && sym < 127 ? sym : 0;
 }
 
-/// The modifier that a key is while it is down, 0 for most keys.
+/// SDL's modifier bit of a key, 0 for a key that is no modifier.
 int modifierOf(int sym) {
     switch (sym) {
         case SDLK_LSHIFT:
@@ -52,7 +52,7 @@ int modifierOf(int sym) {
             return KMOD_LMETA;
         case SDLK_RMETA:
             return KMOD_RMETA;
-        // The locks are reported as held for as long as they are on.
+        // SDL reports a lock key as held while the lock is on.
         case SDLK_NUMLOCK:
             return KMOD_NUM;
         case SDLK_CAPSLOCK:
@@ -64,7 +64,7 @@ int modifierOf(int sym) {
     }
 }
 
-/// The key that types a character, as far as one key does.
+/// The code of the key that types a character, 0 beyond ASCII.
 int symOfCharacter(unsigned char c) {
     if (c >= 'A' && c <= 'Z')
         return c - 'A' + 'a';
@@ -108,7 +108,7 @@ void EventPump::pushKey(bool pressed, int sym, int unicode) {
 }
 
 void EventPump::typeCharacter(unsigned char c) {
-    // Text boxes ask for shift, not for the character.
+    // Text boxes look at the shift key, not at the case of the character.
     const int before = modifiers_;
     if (c >= 'A' && c <= 'Z')
         modifiers_ |= KMOD_LSHIFT;
@@ -168,7 +168,7 @@ bool EventPump::inject(const std::string& line,
         return true;
     }
     if (kind == "@move" && words.size() == 3) {
-        // The widest motion that an event can hold.
+        // The range of SDL's relative motion.
         constexpr int limit = 32767;
         pushMotion(std::clamp(parseInt(words[1]), 0, limit),
                    std::clamp(parseInt(words[2]), 0, limit));

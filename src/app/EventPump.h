@@ -10,22 +10,23 @@
 
 namespace bc {
 
-/// The one way of events into the game: those of the window, when there is one, and those that a
-/// script puts in. Injected events come first in each poll. Once a script has moved the pointer,
-/// the motion of the real one is passed over, so that the run is the same wherever that is.
+/// Source of all input events: those of the window, if there is one, and those that a script
+/// injects. Injected events come first in each poll. Once a script has moved the pointer, motion
+/// events of the window are dropped, so that the run does not depend on where the real pointer is.
 class EventPump {
   public:
-    /// Without a window only injected events are seen.
+    /// Without a window there are injected events only.
     explicit EventPump(bool hasWindow) : hasWindow_(hasWindow) {}
 
     /// Next pending event; false when there is none.
     bool poll(SDL_Event& event);
 
-    /// symOf finds the key code of a key name of the key map, -1 for an unknown one.
-    /// False (and nothing injected) for a line that is not a known event or misses its arguments.
+    /// Turns a script line ("@key NAME", "@keyup NAME", "@type TEXT", "@move X Y", "@press N",
+    /// "@release N") into events. symOf finds SDL's code of a key name, -1 for an unknown one.
+    /// False (and nothing injected) for a line that is not such an event or misses its arguments.
     bool inject(const std::string& line, const std::function<int(const std::string&)>& symOf);
-    /// Where the game's own cursor stands, which follows relative motion only. The first motion of
-    /// a script starts there, so that the cursor comes to stand where the script says.
+    /// Tells where the game's own cursor is, in window pixels from the top left. That cursor
+    /// follows relative motion only, so the first injected motion is made relative to it.
     void cursorIsAt(int x, int y);
 
   private:
@@ -39,7 +40,7 @@ class EventPump {
     std::deque<SDL_Event> injected_;
     /// SDL's mask of the modifier keys that injected events hold down.
     int modifiers_ = 0;
-    // Where the pointer is, and where a script put it last.
+    // Window pixels from the top left: the pointer, and where the last injected motion ended.
     int mouseX_ = 0;
     int mouseY_ = 0;
     int scriptX_ = 0;

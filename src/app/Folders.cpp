@@ -25,7 +25,8 @@ bool chooseFolders(const Options& options, std::string& error) {
     fs::path user = options.userFolder;
     fs::path data = options.dataFolder;
     const bool here = isGameFolder(".");
-    // Beside other data than the working folder's, its own must not lie over them.
+    // The user folder's files replace those of the data folder. With --data those of the working
+    // folder must not do so.
     if (user.empty())
         user = here && data.empty() ? fs::path(".") : personalFolder();
     if (data.empty())

@@ -12,6 +12,7 @@ namespace bc {
 
 namespace {
 
+/// Bytes.
 constexpr std::size_t maxScriptSize = 64U << 20;
 
 std::string_view trimmed(std::string_view s) {
@@ -21,7 +22,7 @@ std::string_view trimmed(std::string_view s) {
     return s.substr(begin, s.find_last_not_of(" \t\r") - begin + 1);
 }
 
-/// Whole contents of a file, or of a pipe. False for a folder and what is too long.
+/// Appends the contents of a file or a pipe. False when it cannot be read or is too long.
 bool readScript(const std::string& path, std::string& text) {
     std::FILE* file = std::fopen(path.c_str(), "rb");
     if (file == nullptr)

@@ -10,14 +10,15 @@
 
 namespace bc {
 
-/// Lines "FRAME TEXT" that are run at the start of that pass of the main loop, in file order.
+/// Lines "FRAME TEXT": each text is run once, at the start of the pass of the main loop with that
+/// number (from 0), in file order. '#' starts a comment.
 class FrameScript {
   public:
-    /// Parses a file or a pipe of any folder: it is named by the person who starts the game.
-    /// On failure as parse.
+    /// Parses a file or a pipe. The path may lead anywhere, since it comes from the command line.
+    /// False when it cannot be read, and as parse.
     bool load(const std::string& path, std::string& error);
-    /// Reads the whole text. On a line that does not begin with a frame number the script stays
-    /// empty, error names the line, and the result is false. '#' starts a comment.
+    /// Replaces the script. False when a line does not begin with a frame number: error names the
+    /// line, and the script stays as it was.
     bool parse(const std::string& text, std::string& error);
 
     /// Calls run for every line due up to and including frame, once each.

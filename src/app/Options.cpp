@@ -10,10 +10,10 @@ namespace bc {
 
 namespace {
 
-// Larger windows than any screen are mistakes, and smaller ones hold no menu.
+// Pixels. Smaller windows have no room for a menu; larger ones exceed every screen.
 constexpr int minWindow = 160;
 constexpr int maxWindow = 16384;
-// A pass longer than this would be cut by the simulation anyway many times over.
+// The simulation counts no more than 250 ms of a pass, so longer ones are mistakes.
 constexpr std::uint32_t maxFrameMs = 10000;
 
 bool readNumber(const std::string& text, std::uint32_t& out) {
@@ -93,8 +93,8 @@ std::optional<Options> parseOptions(const std::vector<std::string>& args, std::s
             options.commands.push_back(name.substr(1));
             continue;
         }
-        // Words behind a command are its arguments, also those that look like options to us
-        // only when they begin with two dashes.
+        // Words behind a command are its arguments, negative numbers among them. Two dashes begin
+        // an option again.
         if (!options.commands.empty() && name.rfind("--", 0) != 0) {
             options.commands.back() += ' ' + name;
             continue;

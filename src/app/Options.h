@@ -14,7 +14,7 @@ struct Options {
     enum class Action { play, help, version };
 
     Action action = Action::play;
-    /// Folders; empty when not named.
+    /// Empty when not named.
     std::string userFolder;
     std::string dataFolder;
     /// Window size in pixels, over the configured one.

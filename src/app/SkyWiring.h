@@ -8,7 +8,7 @@ namespace bc {
 
 class World;
 
-/// The sky's particle systems, run by the process-wide particle manager.
+/// The sky's particle systems, which the process-wide particle manager runs.
 class ParticleSkySystems final : public SkyParticles {
   public:
     int start(const std::string& name, const Vector& position) override;
@@ -16,7 +16,7 @@ class ParticleSkySystems final : public SkyParticles {
     void draw(IRenderer& renderer, int handle) override;
 };
 
-/// Looks through the world's bodies, the player's own left out.
+/// Every body of the world but the player blocks the sight.
 class WorldSightLine final : public SightLine {
   public:
     explicit WorldSightLine(World& world) : world_(world) {}

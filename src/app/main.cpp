@@ -52,7 +52,8 @@ int main(int argc, char** argv) {
         std::printf("Brightclash %s\n", bc::versionText());
         return 0;
     }
-    // A file that grows too large fails like one on a full disk.
+    // A write beyond the limit of file sizes then fails with an error, as on a full disk, and does
+    // not end the process.
     std::signal(SIGXFSZ, SIG_IGN);
     if (!bc::chooseFolders(*options, error)) {
         std::fprintf(stderr, "brightclash: %s\n", error.c_str());
