@@ -14,10 +14,23 @@
 #include <csignal>
 #include <cstdio>
 #include <ctime>
+#include <fcntl.h>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
+
+/// Opens /dev/null as each standard stream that the caller closed. Otherwise the next file that the
+/// game opens would take its number and be written to by the log.
+void openStandardStreams() {
+    int file = 0;
+    do {
+        file = open("/dev/null", O_RDWR);
+    } while (file >= 0 && file <= STDERR_FILENO);
+    if (file > STDERR_FILENO)
+        close(file);
+}
 
 int play(const bc::Options& options) {
     bc::logLine("game starting");
@@ -38,6 +51,7 @@ int play(const bc::Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    openStandardStreams();
     std::string error;
     const auto options = bc::parseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
     if (!options) {
