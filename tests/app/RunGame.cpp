@@ -42,9 +42,32 @@ void RunGame::write(const std::string& name, const std::string& text) const {
     std::ofstream(folder_ / name, std::ios::binary) << text;
 }
 
-void RunGame::script(const std::string& lines) {
+std::string RunGame::scriptPath(const std::string& name) {
+    return test::sourcePath("tests/app/scripts/" + name);
+}
+
+std::string RunGame::scriptLines(const std::string& name) {
+    return slurp(scriptPath(name));
+}
+
+void RunGame::provide(const std::string& name) const {
+    write(name, slurp(test::sourcePath("tests/app/user/" + name)));
+}
+
+int RunGame::play(const std::string& name, const std::map<std::string, std::string>& values) {
+    std::string lines = scriptLines(name + ".txt");
+    // Without a script the program would never end.
+    if (lines.empty())
+        return -1;
+    for (const auto& [key, value] : values)
+        for (std::size_t at = 0; (at = lines.find('{' + key + '}', at)) != std::string::npos;)
+            lines.replace(at, key.size() + 2, value);
+    return playLines(lines);
+}
+
+int RunGame::playLines(const std::string& lines) {
     write("script.txt", lines);
-    scriptFile_ = (folder_ / "script.txt").string();
+    return headless({"--script", (folder_ / "script.txt").string()});
 }
 
 int RunGame::headless(std::vector<std::string> args) {
@@ -55,8 +78,6 @@ int RunGame::headless(std::vector<std::string> args) {
 int RunGame::run(std::vector<std::string> args) {
     std::vector<std::string> all = {(fs::path(test::gamePath("")) / "brightclash").string(),
                                     "--user", folder_.string(), "--data", data.string()};
-    if (!scriptFile_.empty())
-        all.insert(all.end(), {"--script", scriptFile_});
     all.insert(all.end(), args.begin(), args.end());
     std::vector<char*> argv;
     argv.reserve(all.size() + 1);
@@ -71,6 +92,8 @@ int RunGame::run(std::vector<std::string> args) {
         dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
         for (std::string& variable : environment)
             putenv(variable.data());
+        for (const int stream : closedStreams)
+            close(stream);
         execv(argv[0], argv.data());
         _exit(127);
     }
