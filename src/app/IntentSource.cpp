@@ -12,7 +12,10 @@ namespace bc {
 
 PlayerIntent IntentSource::takeIntent() {
     PlayerIntent intent = subsystems_.gameInput().takeIntent();
-    intent.aimAt = aimAt_;
+    // As of the picture drawn last: the craft may have been put elsewhere since.
+    const Player& player = subsystems_.player();
+    intent.aim = player.aim;
+    intent.aimAt = player.mouseWorldPos;
     return intent;
 }
 
@@ -28,7 +31,6 @@ void IntentSource::updateAim() {
     Player& player = subsystems_.player();
     player.cursorPos.set(cursor.mouseX, cursor.mouseY);
     player.aimAt(hit);
-    aimAt_ = hit;
 }
 
 void IntentSource::clear() {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/Vector.h"
 #include "gameplay/player/PlayerIntent.h"
 
 namespace bc {
@@ -26,8 +25,6 @@ class IntentSource {
 
   private:
     Subsystems& subsystems_;
-    /// In the plane of play, world units.
-    Vector aimAt_;
 };
 
 }  // namespace bc

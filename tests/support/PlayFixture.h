@@ -158,10 +158,9 @@ class PlayFixture : public TestFolders {
             game.timer.tick();
             PlayerIntent intent = input.takeIntent();
             // Tests set the aim and the cursor's place in the world themselves.
-            intent.aimAt = player->renderpos;
-            const Vector cursor = player->mouseWorldPos;
+            intent.aim = player->aim;
+            intent.aimAt = player->mouseWorldPos;
             control.applyFiring(*player, intent);
-            player->mouseWorldPos = cursor;
             control.applyMovement(*player, intent, dt);
             gameplay->update(dt);
             game.world.simulate(dt, gravity);

@@ -34,7 +34,7 @@ class GameplayInput final : public GameInput {
     void init() override;
     void clearActions() override;
     /// What the keys want in this pass; what acts once (the next and the previous weapon) is asked
-    /// for only once. aimAt is left to the caller.
+    /// for only once. The aim is left to the caller.
     [[nodiscard]] PlayerIntent takeIntent();
 };
 

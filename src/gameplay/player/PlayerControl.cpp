@@ -30,7 +30,8 @@ void PlayerControl::applyMovement(Player& player, const PlayerIntent& intent, fl
 }
 
 void PlayerControl::applyFiring(Player& player, const PlayerIntent& intent) {
-    player.aimAt(intent.aimAt);
+    player.aim = intent.aim;
+    player.mouseWorldPos = intent.aimAt;
     if (player.dead)
         return;
     fireGrapple(player, intent);

@@ -30,6 +30,8 @@ struct PlayerIntent {
     bool nextWeapon = false;
     bool previousWeapon = false;
 
+    /// Direction of aim in the plane of play, unit length. Weapons fire along it.
+    Vector aim{1, 0};
     /// The place in the world that is aimed at.
     Vector aimAt;
 };
