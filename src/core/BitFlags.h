@@ -6,7 +6,7 @@
 
 namespace bc {
 
-/// A word of flags named by their bit values (1, 2, 4, ...).
+/// A set of flags. Each flag is one bit; a mask is the sum of the bits of one or more flags.
 struct BitFlags {
     std::uint32_t bits = 0;
 
@@ -14,6 +14,7 @@ struct BitFlags {
     explicit constexpr BitFlags(std::uint32_t b) : bits(b) {}
     constexpr void set(std::uint32_t mask) { bits |= mask; }
     constexpr void clear(std::uint32_t mask) { bits &= ~mask; }
+    /// True when at least one flag of the mask is set.
     [[nodiscard]] constexpr bool test(std::uint32_t mask) const { return (bits & mask) != 0; }
 };
 

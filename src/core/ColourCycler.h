@@ -4,12 +4,14 @@
 
 namespace bc {
 
-/// A scalar that runs back and forth between two bounds; pulses alphas and colours.
+/// Moves a number back and forth between two bounds at a constant speed, for alphas and colours
+/// that pulse.
 class ColourCycler {
   public:
     void setMin(float v) { min_ = v; }
     void setMax(float v) { max_ = v; }
-    /// Moves on by step seconds. Passing a bound (strictly) lands on it and turns round.
+    /// Moves the number by step seconds. A number that would pass a bound is set to that bound and
+    /// changes its direction; one that lands exactly on a bound keeps its direction.
     void update(float step) {
         if (rising_) {
             current_ += speed_ * step;

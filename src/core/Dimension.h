@@ -9,7 +9,8 @@
 
 namespace bc {
 
-/// A size. Also reads "low,high" pairs of the particle definitions.
+/// A size in pixels or world units, whichever its user works in. Particle definitions also store a
+/// range of numbers in one, the lower end as its width and the upper end as its height.
 struct Dimension {
     float width = 0;
     float height = 0;
@@ -26,7 +27,8 @@ struct Dimension {
     [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
     /// "width x height".
     [[nodiscard]] std::string toSizeString() const;
-    /// Two or three comma-separated numbers; fewer change nothing.
+    /// Reads "width,height" (depth stays) or "width,height,depth". A text with fewer than two
+    /// numbers changes nothing.
     void fromString(std::string_view text);
     constexpr void set(float w, float h, float d) {
         set(w, h);
@@ -36,7 +38,7 @@ struct Dimension {
         width = w;
         height = h;
     }
-    /// "640x480" or "640 x 480"; fewer than two numbers change nothing.
+    /// Reads "640x480" or "640 x 480". A text with fewer than two numbers changes nothing.
     void fromSizeString(std::string_view text);
 
     friend constexpr bool operator==(const Dimension&, const Dimension&) = default;

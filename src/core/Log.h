@@ -6,8 +6,8 @@
 
 namespace bc {
 
-/// Writes to standard output, which the program redirects to its log file. logLine adds the
-/// newline. Each call reaches the file at once, so that a crash loses nothing.
+/// Both write to standard output, which the program redirects to its log file, and flush it, so
+/// that a crash loses nothing. logLine adds a newline.
 void logText(std::string_view text);
 void logLine(std::string_view text);
 

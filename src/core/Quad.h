@@ -13,8 +13,8 @@
 
 namespace bc {
 
-/// Up to four corners in the order in which they are drawn, with a colour each that skies use as
-/// rates of change a second.
+/// Up to four corners in drawing order, and a separate list of colours. Skies store there, one for
+/// each corner, by how much that corner's colour changes in a second.
 class Quad {
   public:
     static constexpr std::size_t maxVertices = 4;
@@ -23,12 +23,13 @@ class Quad {
         addVertex(make(p, c, t));
     }
     void addVertex(const Vector& p, const RGBAColour& c) { addVertex(make(p, c, {})); }
-    /// A fifth corner is dropped.
+    /// A fifth corner is ignored.
     void addVertex(const Vertex& v) {
         if (vertices_.size() < maxVertices)
             vertices_.push_back(v);
     }
-    /// Replacing a corner that does not exist changes nothing.
+    /// Replaces corner i (from 0). Without a coordinate the corner keeps its old one. An i for
+    /// which there is no corner changes nothing.
     void setVertex(std::size_t i, const Vector& p, const RGBAColour& c, const TexCoord& t) {
         if (i < vertices_.size())
             vertices_[i] = make(p, c, t);

@@ -10,8 +10,8 @@
 
 namespace bc {
 
-/// A colour on the 0 to 255 scale; channels may leave the range while they are animated and are
-/// clamped where they are drawn.
+/// A colour with channels from 0 to 255. Animations may move a channel out of that range; toByte
+/// clamps it for drawing.
 struct RGBAColour {
     float r = 0;
     float g = 0;
@@ -29,7 +29,7 @@ struct RGBAColour {
 
     /// "r,g,b,a".
     [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
-    /// Accepts exactly four numbers; anything else changes nothing.
+    /// Reads "r,g,b,a". A text with more or fewer than four numbers changes nothing.
     void fromString(std::string_view text);
 
     constexpr void set(float red, float green, float blue) {
@@ -42,7 +42,7 @@ struct RGBAColour {
         a = alpha;
     }
 
-    /// The channel as it is drawn: truncated, 0 to 255.
+    /// The channel rounded down to a whole number and clamped to 0..255; 0 for NaN.
     [[nodiscard]] static std::uint8_t toByte(float channel);
 
     friend constexpr bool operator==(const RGBAColour&, const RGBAColour&) = default;

@@ -8,8 +8,8 @@ namespace bc {
 
 namespace {
 
-// A linear congruential generator modulo 2^32, with Knuth's multiplier and Lewis's increment; the
-// upper bits are the good ones and only they are handed out.
+// A linear congruential generator modulo 2^32, with Knuth's multiplier and Lewis's increment. Its
+// lower bits repeat after short periods, so integer() returns only the upper 15.
 constexpr std::uint32_t multiplier = 1664525U;
 constexpr std::uint32_t increment = 1013904223U;
 
@@ -19,7 +19,7 @@ Random looks;
 }  // namespace
 
 void Random::seed(std::uint32_t seed) {
-    // Neighbouring seeds give unlike sequences only after the bits have been spread.
+    // Mixes the bits: without this, seeds that differ by 1 would start with similar numbers.
     seed ^= seed >> 16;
     seed *= 0x7feb352dU;
     seed ^= seed >> 15;

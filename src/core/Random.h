@@ -8,19 +8,19 @@
 
 namespace bc {
 
-/// The random generator of the game: the same sequence on every machine.
+/// The random generator of the game. The same seed gives the same sequence on every machine.
 class Random {
   public:
     void seed(std::uint32_t seed);
-    /// The whole state, for saves; setState continues the sequence there.
+    /// The position in the sequence, for saves; setState continues from it.
     [[nodiscard]] std::uint32_t state() const { return state_; }
     void setState(std::uint32_t state) { state_ = state; }
 
     /// 0 to randomMax, inclusive.
     int integer();
-    /// A value in [lo, hi); exactly 0, without drawing a number, when both are 0.
+    /// A value in [lo, hi). When both are 0 the result is 0 and no number is drawn.
     float range(float lo, float hi);
-    /// A unit vector in the plane of play.
+    /// A unit vector in the x-y plane.
     Vector direction();
 
   private:
@@ -29,12 +29,13 @@ class Random {
 
 inline constexpr int randomMax = 32767;
 
-/// What only looks draws from a sequence of its own: how many sparks fly, and whether those of
-/// before a save are still there after it, does not change what happens.
+/// The process-wide generator for everything that is only seen, such as particles. It is separate
+/// from the generator for play, so that the number of sparks does not influence what happens, and
+/// saves do not hold it.
 Random& looksRandom();
 
-// Everything that plays draws from one process-wide sequence.
-/// Starts both sequences anew.
+// The process-wide generator for everything that influences play. Saves hold its state.
+/// Seeds both generators.
 void seedRandom(std::uint32_t seed);
 [[nodiscard]] std::uint32_t randomState();
 void setRandomState(std::uint32_t state);

@@ -19,7 +19,7 @@ struct TexCoord {
 
     /// "u,v".
     [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
-    /// Accepts exactly two numbers; anything else changes nothing.
+    /// Reads "u,v". A text with more or fewer than two numbers changes nothing.
     void fromString(std::string_view text);
 
     friend constexpr bool operator==(const TexCoord&, const TexCoord&) = default;

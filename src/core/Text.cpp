@@ -29,7 +29,8 @@ locale_t classicLocale() {
     return locale;
 }
 
-/// Calls visit(token) for each token until it returns false.
+/// Calls visit(token) for each piece between delimiters that is not empty, until visit returns
+/// false.
 template <class Visit>
 void forEachToken(std::string_view delimiters, std::string_view text, Visit visit) {
     std::size_t begin = text.find_first_not_of(delimiters);
@@ -99,7 +100,8 @@ std::string formatFloat(float value, Digits digits) {
 }
 
 float parseFloat(std::string_view text) {
-    // No number of interest is longer; a longer text of digits reads as its first ones.
+    // strtod_l needs a terminated text. Only the first 127 characters count; no number in a data
+    // file is longer.
     char buffer[128];
     const std::size_t skip = static_cast<std::size_t>(
         std::find_if_not(text.begin(), text.end(), isSpace) - text.begin());

@@ -6,14 +6,16 @@
 
 namespace bc {
 
-/// Milliseconds since the program started: the one place where the game reads a clock.
-/// While a virtual clock is in force they are what advanceVirtualTicks made them.
+/// Milliseconds since SDL was started, or the time of the virtual clock while that is in use. The
+/// game reads the time only here.
 std::uint32_t ticks();
-/// The same as a float, the unit of every timer of the game.
+/// The same as a float.
 float ticksNow();
 
-/// From now on ticks() stands still but for advanceVirtualTicks; it starts at startMs.
+/// Switches to a virtual clock that starts at startMs and changes only through
+/// advanceVirtualTicks.
 void useVirtualTicks(std::uint32_t startMs = 0);
+/// Switches back to SDL's clock.
 void useRealTicks();
 bool ticksAreVirtual();
 void advanceVirtualTicks(std::uint32_t ms);

@@ -9,8 +9,8 @@
 
 namespace bc {
 
-/// A position, direction or velocity in world units (or units a second). y grows upwards; z is
-/// depth and only orders what is drawn. w takes part in the arithmetic but never in text.
+/// A position, direction or velocity in world units (or units a second). y grows upwards; z is the
+/// depth, which influences only drawing. w takes part in the arithmetic but not in the text form.
 struct Vector {
     float x = 0;
     float y = 0;
@@ -21,9 +21,9 @@ struct Vector {
     constexpr Vector(float px, float py, float pz = 0) : x(px), y(py), z(pz) {}
     explicit Vector(std::string_view text) { fromString(text); }
 
-    /// "x,y,z" in general float notation.
+    /// "x,y,z", each number as by formatFloat.
     [[nodiscard]] std::string toString(Digits digits = Digits::usual) const;
-    /// Reads "x,y" (z stays) or "x,y,z"; anything with fewer numbers changes nothing.
+    /// Reads "x,y" (z stays) or "x,y,z". A text with fewer than two numbers changes nothing.
     void fromString(std::string_view text);
 
     constexpr void set(const Vector& v) { set(v.x, v.y, v.z); }
@@ -33,6 +33,7 @@ struct Vector {
         y = py;
         z = pz;
     }
+    /// Compares all four components exactly.
     [[nodiscard]] constexpr bool equals(const Vector& v) const {
         return x == v.x && y == v.y && z == v.z && w == v.w;
     }
@@ -59,9 +60,9 @@ struct Vector {
         w *= k;
         return *this;
     }
-    /// Length over all four components.
+    /// The length over all four components.
     [[nodiscard]] float length() const;
-    /// Scales to length 1; a zero vector stays zero.
+    /// Scales the vector to length 1. A zero vector stays zero.
     void normalise();
 };
 
@@ -79,12 +80,13 @@ constexpr Vector operator*(float k, Vector a) {
 }
 
 [[nodiscard]] Vector normalised(Vector v);
-/// Length of b - a over all components.
+/// The length of b - a over all four components.
 [[nodiscard]] float distance(const Vector& a, const Vector& b);
-/// Distance and squared distance in the plane of play (x and y only).
+/// The distance over x and y only, and its square.
 [[nodiscard]] float planarDistance(const Vector& a, const Vector& b);
 [[nodiscard]] float planarDistanceSquared(const Vector& a, const Vector& b);
-/// Places out at a + (b - a) * t. Outside 0..1 out becomes the nearer end and the result is false.
+/// Sets out to a + (b - a) * t. For a t outside 0..1 out becomes the nearer end and the result is
+/// false.
 bool pointAlongSegment(const Vector& a, const Vector& b, float t, Vector& out);
 
 }  // namespace bc

@@ -6,7 +6,7 @@
 
 namespace bc {
 
-/// A corner with a colour (0 to 255 a channel) and a texture coordinate.
+/// A corner of a shape: its position, its colour (channels 0 to 255) and its texture coordinate.
 struct Vertex : Vector {
     float r = 0;
     float g = 0;
