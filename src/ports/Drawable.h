@@ -13,7 +13,8 @@ namespace bc {
 
 class IRenderer;
 
-/// How a body with a moving texture shifts and scales it; all in texture units (1 = one image).
+/// How the texture of a body is shifted and scaled when it is drawn. Offsets are in texture units
+/// (1 is the size of the image), scales are factors on the texture coordinates.
 struct TextureTransform {
     float offsetX = 0;
     float offsetY = 0;
@@ -23,23 +24,25 @@ struct TextureTransform {
     float scaleY = 1;
 };
 
-/// What the renderer needs to know of a body: its polygon, where it is drawn and how it looks.
-/// Bodies derive from it; the renderer draws it through IRenderer::drawBody.
+/// The part of a body that the renderer works with: its polygon, its place and its looks. Bodies
+/// derive from it; IRenderer::drawBody draws it.
 class Drawable {
   public:
     virtual ~Drawable() = default;
 
-    /// Called after the polygon was drawn, outside its matrix.
+    /// The renderer calls it after it has drawn the polygon, with the matrix of the world in force
+    /// and not that of the body.
     virtual void drawExtras(IRenderer&) {}
+    /// True when the renderer must call textureTransform before it draws the polygon.
     [[nodiscard]] virtual bool hasTextureTransform() const { return false; }
-    /// Fills in what it wants to change; the rest stays as the caller gave it.
+    /// Changes the members that differ from the defaults.
     virtual void textureTransform(TextureTransform&) {}
-    /// True for bodies that drawSelf instead of having their polygon drawn.
+    /// True when the renderer must call drawSelf and not draw the polygon.
     [[nodiscard]] virtual bool drawsItself() const { return false; }
     virtual void drawSelf(IRenderer&) {}
 
-    // Corners relative to renderpos, one colour and one texture coordinate each (a shorter list
-    // of colours or coordinates leaves the remaining corners white and at 0,0).
+    // The corners in world units relative to renderpos, with one colour and one texture coordinate
+    // for each. A corner without a colour is white; one without a coordinate has 0,0.
     std::vector<Vector> localVertices;
     std::vector<RGBAColour> colours;
     std::vector<TexCoord> texCoords;
@@ -47,43 +50,44 @@ class Drawable {
     std::string texture;
     std::string glowTexture;
 
-    // For labels and dumps.
+    // The body type and the name that the level gives the body, for labels and dumps.
     std::string type = "default";
     std::string id = "generic";
 
     RGBAColour outlinecolour;
     int outlinewidth = 1;
 
-    // Texture mapping numbers of the level file; stored and written back, drawn with as they
-    // stand in the corners' texture coordinates.
+    // The texture mapping of the level file. It is only stored and written back: the texture
+    // coordinates of the corners already contain it.
     float texhshift = 0;
     float texvshift = 0;
     float texhscale = 1;
     float texvscale = 1;
     float texrotate = 0;
 
-    /// The renderer's id of texture, -1 when it is still to be fetched by name.
+    /// The renderer's id of the texture; -1 before the renderer has looked it up by name.
     int textureHandle = -1;
-    /// With a glow texture: how many additive passes of it lie over the body, each fainter.
+    /// How often the glow texture is drawn over the body, each time fainter.
     int glowSteps = 0;
 
-    /// World units. Between two simulation steps it lies between the old and the new position.
+    /// Where the body is drawn, in world units: between its positions before and after the last
+    /// simulation step.
     Vector renderpos;
-    /// Depth: lower is drawn first, and farther away.
+    /// The depth. Bodies with a lower one are farther away and are drawn earlier.
     float zShift = 0;
 
     bool visible = true;
     bool outlined = true;
     bool textured = false;
-    /// True: the texture's edge pixels do not wrap round (sprites); false: it tiles.
+    /// True for sprites, whose texture must not repeat at its edges; false for tiling textures.
     bool clampTexture = false;
-    /// Drawn in the bloom pass as well.
+    /// True when the body is also drawn in the bloom pass.
     bool hasGlow = false;
 
-    // These two stand last, and begin a cache line that Body goes on with: what every simulation
-    // step reads lies together.
+    // These two stand last and start a cache line. The members of Body that every simulation step
+    // reads follow in the same line.
     alignas(64) float mass = 100;
-    /// Radians, clockwise as seen by the player (world.x = x cos + y sin).
+    /// Radians, clockwise as the player sees it (world.x = x cos + y sin).
     float angle = 0;
 };
 

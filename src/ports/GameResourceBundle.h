@@ -9,12 +9,12 @@ class IRenderer;
 class ISound;
 struct BasicTimer;
 
-/// What the gameplay controller is given at its init. Nothing in it is owned.
+/// The objects that IGameplay::init hands to the gameplay controller. The bundle does not own them.
 struct GameResourceBundle {
     IGame* game = nullptr;
     ISound* sound = nullptr;
     IRenderer* renderer = nullptr;
-    /// The frame clock.
+    /// The timer that the main loop ticks once a frame.
     BasicTimer* timer = nullptr;
 };
 

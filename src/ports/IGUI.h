@@ -6,15 +6,16 @@ namespace bc {
 
 class IRenderer;
 
-/// The menus as the rest of the game sees them: shown or hidden, drawn over everything.
+/// The menus, which are drawn over everything else while they are visible.
 class IGUI {
   public:
     virtual ~IGUI() = default;
     [[nodiscard]] virtual bool isVisible() const = 0;
     virtual void setVisible(bool visible) = 0;
-    /// Called between the renderer's begin2D and end2D, also while hidden.
+    /// Called once a frame between the renderer's begin2D and end2D, also while the menus are
+    /// hidden.
     virtual void draw(IRenderer& renderer) = 0;
-    /// Window size in pixels.
+    /// The size of the window in pixels.
     virtual void setScreenSize(float width, float height) = 0;
 };
 
