@@ -13,7 +13,8 @@ namespace fs = std::filesystem;
 bool matchesWildcard(std::string_view pattern, std::string_view name) {
     std::size_t p = 0;
     std::size_t n = 0;
-    // Where to try again with one more character given to the latest star.
+    // The latest star in the pattern, and the character of the name from which to compare again
+    // once the star stands for one character more.
     std::size_t star = std::string_view::npos;
     std::size_t resume = 0;
     while (n < name.size()) {

@@ -10,21 +10,21 @@
 
 namespace bc {
 
-/// One entry of a folder, without the folder's name.
+/// One entry of a folder.
 struct FoundFile {
     bool directory = false;
+    /// Without the path of the folder.
     std::string name;
 };
 
-/// Walks the entries of one real folder that match a wildcard pattern ("*" any run of characters,
-/// "?" any one, letter case counts), in byte order of their names. The listing is taken when the
-/// search starts; later changes of the folder do not show.
+/// Finds the entries of one folder whose names match a wildcard pattern, in the byte order of the
+/// names. findFirst reads the whole folder; changes made to it later do not count.
 class FileFinder {
   public:
-    /// pattern is a path whose last part may hold wildcards. Nothing when the folder cannot be
-    /// read or nothing in it matches.
+    /// pattern is a path of the operating system whose last part may contain wildcards. Nothing
+    /// when the folder cannot be read or no name matches.
     std::optional<FoundFile> findFirst(const std::string& pattern);
-    /// Nothing after the last match.
+    /// The next match; nothing after the last one.
     std::optional<FoundFile> findNext();
     void close();
 
@@ -33,7 +33,9 @@ class FileFinder {
     std::size_t next_ = 0;
 };
 
-/// Takes at most the product of both lengths in steps.
+/// Whether the whole name matches the pattern: "*" stands for any number of characters, "?" for
+/// exactly one, and upper and lower case differ. Takes at most as many steps as the product of both
+/// lengths.
 [[nodiscard]] bool matchesWildcard(std::string_view pattern, std::string_view name);
 
 }  // namespace bc

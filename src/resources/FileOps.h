@@ -7,20 +7,20 @@
 
 namespace bc {
 
-/// Lists of the files that the player may choose from: saves, adventures.
+/// Lists files for the player to choose from, such as saves and adventures.
 struct FileOps {
     struct FileSystemNode {
-        /// Never set: folders are not listed.
+        /// Always false, since folders are not listed.
         bool directory = false;
-        /// Without the folder.
+        /// Without the path of the folder.
         std::string name;
     };
 
-    /// Appends the files of a folder that match a wildcard pattern ("*.xml"), those of the user
-    /// folder and the data folder together, by name in byte order, each name once. A folder name
-    /// without any "/" gets one; with one, the pattern is put right behind it ("data/x/" lists the
-    /// folder data/x). When nothing matches in either folder, or the name is not safe, the log
-    /// says so and out stays as it was.
+    /// Appends the files of a folder whose names match a wildcard pattern such as "*.xml" to out:
+    /// those of the user folder and of the data folder together, in byte order, each name once.
+    /// A "/" is added to a folder name that contains none. The pattern is appended directly to
+    /// every other one, so "data/x/" names the folder data/x. When nothing matches or the path is
+    /// not safe (files::isSafeName), the log says so and out stays as it was.
     static void getDirContents(const std::string& pattern, const std::string& folder,
                                std::vector<FileSystemNode>& out);
 };

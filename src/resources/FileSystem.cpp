@@ -29,7 +29,7 @@ Folders& folders() {
     return instance;
 }
 
-/// An open file that closes itself; -1 is none.
+/// Owns a file descriptor and closes it at the end; -1 stands for no file.
 class Descriptor {
   public:
     explicit Descriptor(int fd) : fd_(fd) {}
@@ -40,7 +40,7 @@ class Descriptor {
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     [[nodiscard]] int get() const { return fd_; }
-    /// False when the last of what was written could not be kept.
+    /// False when the operating system could not write the last bytes.
     [[nodiscard]] bool close() {
         const int fd = fd_;
         fd_ = -1;
@@ -68,9 +68,9 @@ bool writeWhole(int fd, std::string_view bytes) {
     return true;
 }
 
-/// Writes a file and flushes it to the disk.
+/// Writes a new file and waits until it is on the disk.
 bool writeNewFile(const std::string& path, std::string_view contents) {
-    ::unlink(path.c_str());  // left behind by a crash
+    ::unlink(path.c_str());  // A crash may have left one behind.
     Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     return file.get() >= 0 && writeWhole(file.get(), contents) && ::fsync(file.get()) == 0 &&
            file.close();
@@ -91,7 +91,7 @@ bool isControl(char c) {
     return byte < 32 || byte == 127;
 }
 
-/// As it may appear in the log: on one line.
+/// The name for a log line, with "?" for every control character, so that it stays on that line.
 std::string printable(std::string_view name) {
     std::string out(name);
     std::replace_if(out.begin(), out.end(), isControl, '?');
@@ -183,8 +183,8 @@ bool replace(std::string_view name, std::string_view contents) {
         return false;
     const std::string temporary = *path + ".new";
     errno = 0;
-    // The bytes must be on the disk before the name points at them, and the folder's entry
-    // after that: only then does a crash at any moment leave one whole file.
+    // The contents must be on the disk before the file gets its name, and the folder after that.
+    // Then a crash leaves either the old or the new file, whenever it happens.
     if (writeNewFile(temporary, contents) && ::rename(temporary.c_str(), path->c_str()) == 0) {
         flushFolder(fs::path(*path).parent_path().string());
         return true;

@@ -9,37 +9,40 @@
 
 namespace bc {
 
-/// "Disk" as the game sees it: the user folder laid over the data folder. Names are relative with
-/// "/" between their parts. Every file that the game opens by name is found through resolve, and
-/// everything that it writes goes to the user folder.
+/// The files that the game reads and writes. Their names are relative, with "/" between the parts.
+/// A file is looked for in the user folder first and then in the data folder; all files are written
+/// to the user folder.
 namespace files {
 
-/// Both folders may be the same; without a call both are the working folder.
+/// Sets both folders, which may be the same. An empty name stands for the working folder, which
+/// both are at first.
 void setFolders(const std::string& userFolder, const std::string& dataFolder);
 [[nodiscard]] const std::string& userFolder();
 [[nodiscard]] const std::string& dataFolder();
 
-/// False for names that could leave the folders: empty, absolute, with a ".." part or with
-/// control characters.
+/// False for a name that is empty, is absolute, has a ".." part (and so might leave the folders) or
+/// contains a control character.
 [[nodiscard]] bool isSafeName(std::string_view name);
 
-/// The path to open for reading: in the user folder if the file is there, else in the data folder.
-/// Nothing when it is in neither or the name is not safe.
+/// The path of an existing file with this name, for opening it: in the user folder or else in the
+/// data folder. Nothing when there is none or the name is not safe.
 [[nodiscard]] std::optional<std::string> resolve(std::string_view name);
 
-/// The path in the user folder under which a name is written, its folders made. Nothing (and a
-/// log line that says why) when the name is not safe or a folder cannot be made.
+/// The path in the user folder at which to write a file with this name. Makes the missing folders
+/// of the path. Nothing, with a log line, when the name is not safe or a folder cannot be made.
 [[nodiscard]] std::optional<std::string> writable(std::string_view name);
 
-/// Whole contents of a resolved file; nothing when it cannot be read or is above maxBytes.
+/// The contents of a file; nothing when resolve does not find it, when it cannot be read or when it
+/// is larger than maxBytes.
 [[nodiscard]] std::optional<std::string> readAll(std::string_view name,
                                                  std::uint64_t maxBytes = 256U << 20);
 
-/// Replaces a file of the user folder so that after a crash or a full disk the old or the new one
-/// is there, whole: written beside it, flushed to disk, renamed over it. On failure the old file
-/// stays, a log line says why, and the result is false.
+/// Writes or replaces a file of the user folder. The contents first go to a new file beside it,
+/// which is then renamed, so that a crash or a full disk never leaves half a file. On failure the
+/// old file stays, the log says why and the result is false.
 bool replace(std::string_view name, std::string_view contents);
-/// Appends text to a file of the user folder, made when missing.
+/// Appends text to a file of the user folder; makes the file when it does not exist. On failure the
+/// log says why and the result is false.
 bool append(std::string_view name, std::string_view text);
 
 }  // namespace files

@@ -61,7 +61,8 @@ std::unique_ptr<char[]> ResourceManager::getBytes(const std::string& name, std::
         return nullptr;
     }
     error = false;
-    // A member that cannot be extracted shows as null bytes, not as an error of the lookup.
+    // error stays false for a member that was found but cannot be extracted; only the result is
+    // null then.
     bool extractionError = false;
     return found->file->getBytes(size, *found->entry, extractionError);
 }

@@ -14,9 +14,8 @@ namespace bc {
 class ZipFile;
 struct ZipResultsBundle;
 
-/// Finds data files by name: first on disk (files::resolve), then in the opened archives in the
-/// order in which they were added. Nothing is cached; every failure is a log line and a null,
-/// empty or false result.
+/// Reads data files by name: from the disk (files::resolve) or else from the first opened archive
+/// that contains the name. Keeps nothing that it has read. Every failure is logged.
 class ResourceManager {
   public:
     ResourceManager();
@@ -24,18 +23,21 @@ class ResourceManager {
     ResourceManager(const ResourceManager&) = delete;
     ResourceManager& operator=(const ResourceManager&) = delete;
 
-    /// Opens an archive (a name for files::resolve) and appends it, also when opening failed, as
-    /// an archive without entries. False only for an empty name.
+    /// Opens an archive; its name is one for files::resolve. An archive that cannot be opened is
+    /// logged and kept without entries. False only for an empty name.
     bool addZip(const std::string& name);
-    /// size bytes and one zero byte behind them. size is written only when something was found.
+    /// The contents of a file: size bytes and one zero byte after them. On failure the result is
+    /// null and size unchanged; error is false when an archive has the file but cannot extract it,
+    /// otherwise true.
     std::unique_ptr<char[]> getBytes(const std::string& name, std::size_t& size, bool& error);
-    /// A document that was loaded has a root element. Texts with NUL bytes or nested deeper than
-    /// 256 elements are refused before they are parsed.
+    /// Parses a file into the document. False when the file cannot be read, when xmlRefusal keeps
+    /// it from the parser, when the parser finds a fault or when there is no root element.
     bool loadXML(TiXmlDocument& document, const std::string& name);
-    /// Empty on failure.
+    /// The contents of a file; empty on failure.
     std::string loadText(const std::string& name);
-    /// Closes every archive.
+    /// Closes all archives.
     void release();
+    /// The first entry with this name in the archives; null when there is none.
     [[nodiscard]] std::unique_ptr<ZipResultsBundle> findInArchives(const std::string& name) const;
 
   private:

@@ -19,7 +19,8 @@ bool isNameCharacter(char c) {
     return isLetter(c) || (c >= '0' && c <= '9') || c == '-' || c == '.' || c == ':';
 }
 
-/// Follows the markup exactly as the parser does, as long as it is well formed.
+/// Steps through the tags of a text as the parser does and counts levels, attributes and tags. It
+/// stops at the first tag that is not well formed, since it cannot know how the parser goes on.
 class Scanner {
   public:
     explicit Scanner(std::string_view text) : text_(text) {}
@@ -40,7 +41,8 @@ class Scanner {
     }
 
   private:
-    /// From a fault at markup on, the parser may take any "<" for one level more.
+    /// The answer for a text whose tag at byte markup is not well formed. The parser may take every
+    /// "<" from there on as the start of one more level.
     std::string judgeRest(std::size_t markup) const {
         if (attributes_ > maxXmlAttributes)
             return "an element has more than " + std::to_string(maxXmlAttributes) + " attributes";
@@ -52,6 +54,8 @@ class Scanner {
         return "malformed markup at byte " + std::to_string(markup);
     }
 
+    /// Steps past the tag, comment or other markup at at_. False when it is not well formed; where
+    /// at_ is then does not matter.
     bool scanMarkup() {
         if (startsWith("<!--"))
             return skipPast("-->", 4);
@@ -70,14 +74,16 @@ class Scanner {
         return text_.substr(at_, what.size()) == what;
     }
 
-    /// Moves behind what, or to the end of the text when it does not occur.
+    /// Looks for `what` at least `from` bytes after at_ and moves past it; to the end of the text
+    /// when it is not there. Always true.
     bool skipPast(std::string_view what, std::size_t from) {
         const std::size_t found = text_.find(what, at_ + from);
         at_ = found == std::string_view::npos ? text_.size() : found + what.size();
         return true;
     }
 
-    /// Quoted values are understood in an XML declaration only; in other instructions a ">" ends.
+    /// The parser reads quoted values only in an XML declaration. It ends every other instruction
+    /// at the first ">", even between quotes.
     bool scanInstruction() {
         const auto letter = [this](std::size_t i) {
             return at_ + i < text_.size() ? static_cast<char>(text_[at_ + i] | 0x20) : '\0';
@@ -179,7 +185,7 @@ class Scanner {
     int pieces_ = 0;
 };
 
-/// Bytes of a sequence that begins with lead, 0 when none may begin so.
+/// The length in bytes of a UTF-8 sequence with this first byte; 0 when it cannot be a first byte.
 std::size_t sequenceLength(unsigned char lead) {
     if (lead < 0x80)
         return 1;

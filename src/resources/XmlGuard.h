@@ -7,19 +7,22 @@
 
 namespace bc {
 
-/// Deepest nesting of elements that is handed to the parser, which recurses for each level.
+/// The limit for levels of elements. The parser calls itself for each level and would run out of
+/// stack at about 50,000.
 inline constexpr int maxXmlDepth = 256;
-/// Most attributes of one element; the parser compares each with all before it.
+/// The limit for attributes of one element. The parser compares each one with all before it.
 inline constexpr int maxXmlAttributes = 256;
-/// Most tags, comments and attributes of a text; each takes the parser up to 250 bytes.
+/// The limit for tags, comments and attributes in a text. The parser needs up to 250 bytes of
+/// memory for each.
 inline constexpr int maxXmlPieces = 3'000'000;
 
-/// Why a text must not reach the XML parser, or empty when it may. Faults of form are left to the
-/// parser and its messages unless what follows one could still nest too deeply.
+/// Checks a text before the XML parser gets it. The result says why the parser must not get it, and
+/// is empty when it may. Syntax errors alone are no reason, because the parser reports them; they
+/// are one when the text after the error could exceed maxXmlDepth.
 [[nodiscard]] std::string xmlRefusal(std::string_view text);
 
-/// True for well-formed UTF-8. The parser steps over a broken sequence by the length that its
-/// first byte claims, so other texts have to be read byte by byte.
+/// True for well-formed UTF-8. Every other text must be parsed in the parser's one-byte encoding:
+/// as UTF-8, a broken sequence at its end would make the parser read past it.
 [[nodiscard]] bool isUtf8(std::string_view text);
 
 }  // namespace bc

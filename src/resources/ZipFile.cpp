@@ -23,14 +23,16 @@ constexpr std::uint32_t centralSignature = 0x02014b50;
 constexpr std::size_t localFixedSize = 30;
 constexpr std::size_t centralFixedSize = 46;
 constexpr std::uint64_t maxArchiveSize = 1ULL << 30;
-/// Each takes some 200 bytes of memory.
+/// An entry needs about 200 bytes of memory.
 constexpr std::size_t maxEntries = 1'000'000;
-/// Deflate packs at most 258 bytes into two bits; a member that claims more than this times its
-/// archive's size lies.
+/// The deflate format stores at most 258 bytes in two bits. A larger ratio between the size that a
+/// member claims and the rest of the archive cannot be true.
 constexpr std::uint64_t maxInflateRatio = 1032;
+/// Bytes that are read and inflated at once.
 constexpr std::size_t chunkSize = 512;
 
-/// Takes little-endian numbers off the front of a record that is known to be long enough.
+/// Reads little-endian numbers and texts one after another. The caller makes sure that the record
+/// is long enough.
 class RecordReader {
   public:
     explicit RecordReader(const char* bytes) : bytes_(bytes) {}
@@ -64,7 +66,7 @@ File openArchive(const std::string& name) {
     return File(path ? std::fopen(path->c_str(), "rb") : nullptr);
 }
 
-/// One zero byte more than size; null when there is no memory for it.
+/// A buffer of size bytes and a zero byte after them; null when there is not enough memory.
 std::unique_ptr<char[]> allocate(std::size_t size) {
     std::unique_ptr<char[]> buffer(new (std::nothrow) char[size + 1]);
     if (buffer)
@@ -107,7 +109,8 @@ std::optional<ZipEntry> readCentralRecord(std::string_view rest) {
     return e;
 }
 
-/// Leaves the file at the first byte of the member's data.
+/// Reads the header of a member at offset; the member's data follow at the file's position. Nothing
+/// when there is no header or the file ends within it.
 std::optional<LocalZipEntry> readLocalHeader(std::FILE* file, std::uint32_t offset) {
     std::array<char, localFixedSize> fixed{};
     if (std::fseek(file, static_cast<long>(offset), SEEK_SET) != 0 ||
@@ -136,6 +139,7 @@ std::optional<LocalZipEntry> readLocalHeader(std::FILE* file, std::uint32_t offs
     return e;
 }
 
+/// Bytes from the file's position to its end.
 std::uint64_t bytesLeft(std::FILE* file) {
     const long here = std::ftell(file);
     if (here < 0 || std::fseek(file, 0, SEEK_END) != 0)
@@ -146,7 +150,7 @@ std::uint64_t bytesLeft(std::FILE* file) {
                : 0;
 }
 
-/// A raw inflate stream (no zlib header, 32 KiB window).
+/// Decompresses deflated data without a zlib header, as ZIP archives contain them.
 class Inflater {
   public:
     Inflater() { ready_ = inflateInit2(&stream_, -15) == Z_OK; }
@@ -160,8 +164,8 @@ class Inflater {
     [[nodiscard]] bool ready() const { return ready_; }
     [[nodiscard]] bool finished() const { return finished_; }
 
-    /// Inflates a piece of input behind what was produced before. False when the data are damaged
-    /// or produce more than capacity.
+    /// Decompresses the next piece of input and appends the result to what earlier calls wrote to
+    /// out. False when the data are damaged or out, with capacity bytes, is too small for them.
     bool feed(unsigned char* input, std::size_t length, char* out, std::size_t capacity) {
         stream_.next_in = input;
         stream_.avail_in = static_cast<uInt>(length);
@@ -190,7 +194,8 @@ class Inflater {
     std::size_t total_ = 0;
 };
 
-/// Extracts what follows in file into out. The message for the log when that fails, else empty.
+/// Decompresses the data at the file's position into the size bytes of out. Returns a message for
+/// the log when that fails, an empty one otherwise.
 std::string inflateInto(std::FILE* file, char* out, std::size_t size) {
     Inflater inflater;
     if (!inflater.ready())

@@ -11,8 +11,8 @@
 
 namespace bc {
 
-/// One record of an archive's central directory, as it stands there; only the separators of the
-/// name are made "/". Nothing in it can be trusted but the lengths of its own texts.
+/// One record of an archive's central directory. The archive may be damaged or hostile, so every
+/// member except the three texts and their lengths may have any value.
 struct ZipEntry {
     std::uint32_t signature = 0;
     std::uint16_t versionMadeBy = 0;
@@ -31,14 +31,15 @@ struct ZipEntry {
     std::uint16_t internalAttributes = 0;
     std::uint32_t externalAttributes = 0;
     std::uint32_t headerOffset = 0;
-    /// Where the data begin if the local header's texts are as long as this record's.
+    /// Where the member's data begin if its local header has texts of the same lengths.
     std::uint64_t dataOffset = 0;
+    /// With "/" between its parts; the "\" that some programs write are replaced.
     std::string name;
     std::string extra;
     std::string comment;
 };
 
-/// The header that stands before a member's data.
+/// The header before the data of a member.
 struct LocalZipEntry {
     std::uint32_t signature = 0;
     std::uint16_t versionNeeded = 0;
@@ -55,23 +56,24 @@ struct LocalZipEntry {
     std::string extra;
 };
 
-/// A ZIP archive that is indexed once and read again for each member. Stored and deflated members
-/// are understood; neither check sums nor the compressed sizes are looked at.
+/// A ZIP archive. open() reads its directory; getBytes opens the file again for each member. Reads
+/// stored and deflated members and ignores check sums and compressed sizes.
 class ZipFile {
   public:
-    /// A member is never larger in memory.
+    /// The limit for an extracted member, in bytes.
     static constexpr std::uint32_t maxMemberSize = 256U << 20;
 
     /// fileName is a name for files::resolve.
     explicit ZipFile(std::string fileName) : fileName_(std::move(fileName)) {}
 
-    /// Indexes the archive. False, with a log line, when it cannot be read or is no archive.
+    /// Reads the directory. False, with a log line, when the file cannot be read or is no archive.
+    /// A directory that is cut off gives the entries before the cut.
     bool open();
-    /// The member's bytes and one zero byte behind them. Null when it cannot be read whole: with a
-    /// log line and error set, but for a compression method that is not understood. size is
-    /// written on success only, error on failure only.
+    /// Extracts a member: size bytes and one zero byte after them. When that fails the result is
+    /// null, size is unchanged, error is set and the log says why. A compression method other than
+    /// stored and deflated gives null without a message and without setting error.
     std::unique_ptr<char[]> getBytes(std::size_t& size, const ZipEntry& entry, bool& error) const;
-    /// The first entry of exactly this name, or null.
+    /// The first entry with exactly this name, or null.
     [[nodiscard]] const ZipEntry* find(std::string_view name) const;
 
     [[nodiscard]] const std::string& fileName() const { return fileName_; }
@@ -82,7 +84,7 @@ class ZipFile {
     std::vector<ZipEntry> entries_;
 };
 
-/// Where a name was found. Valid until the manager is released.
+/// An archive and one of its entries. Valid until ResourceManager::release.
 struct ZipResultsBundle {
     const ZipFile* file = nullptr;
     const ZipEntry* entry = nullptr;
