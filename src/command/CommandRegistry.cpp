@@ -14,12 +14,13 @@ namespace bc {
 
 namespace {
 
-/// Scripts that run scripts: how deep, and how many files one outermost exec may run, so that
-/// scripts which call each other several times cannot keep the game busy for ever.
+/// Limits for scripts that run other scripts: how deeply they may be nested, and how many may run
+/// because of one command. Without the second, scripts that each run several others would keep the
+/// game busy for hours within 16 levels.
 constexpr int maxScriptDepth = 16;
 constexpr int maxScriptRuns = 1024;
 
-/// Told to the log and to the user alike.
+/// Writes a line to the log and to the console.
 void report(const std::string& line) {
     logLine(line);
     consolePrint(line);
@@ -71,10 +72,10 @@ void CommandRegistry::execute(std::string_view text) {
 }
 
 void CommandRegistry::executeBuffer() {
-    // Taken out before anything runs: a handler may fill and execute the buffer itself.
+    // The buffer is emptied before anything runs, because a handler may fill and execute it, too.
     const std::string whole = std::exchange(buffer_, {});
     const std::string_view line = trimmed(whole);
-    // A key can be bound to several commands, so what is bound keeps its semicolons.
+    // A semicolon does not end a bind command, so that a key can be bound to several commands.
     const bool isBind = line.starts_with("bind ");
 
     std::string current;
@@ -83,14 +84,14 @@ void CommandRegistry::executeBuffer() {
         if (pair == "//")
             break;
         if (pair == "/*") {
-            // From the star on, so that "/*/" is a whole comment already.
+            // The search starts at the star: "/*/" is a complete comment.
             const std::size_t end = line.find("*/", i + 1);
             if (end == std::string_view::npos)
                 break;
             i = end + 2;
             if (i >= line.size())
                 break;
-            // What follows directly never begins another comment.
+            // The character after the comment is taken as it is; it does not start another comment.
         }
         if (line[i] == ';' && !isBind) {
             executeCommand(current);
@@ -112,12 +113,13 @@ void CommandRegistry::executeCommand(const std::string& text) {
         name = std::move(words.front());
         words.erase(words.begin());
     }
-    // A handler that executes text finds its own name and arguments again afterwards.
+    // The name and arguments of the command that is running are restored afterwards, because its
+    // handler may have called this function and still need them.
     std::vector<std::string> outerArgs = std::exchange(args_, std::move(words));
     std::string outerName = std::exchange(currentName_, std::move(name));
 
     if (const GameCommand* command = findCommand(currentName_)) {
-        // A copy, since the handler may clear the registry.
+        // A copy, because the handler may clear the registry and so delete the original.
         const CommandHandler handler = command->handler;
         if (handler)
             handler();

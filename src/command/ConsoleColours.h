@@ -9,7 +9,7 @@ namespace bc {
 /// The colours of lines in the console.
 namespace colours {
 
-/// Titles, counts and the mark of a console that is scrolled back.
+/// For titles and counts, and for the mark that the console shows while it is scrolled back.
 inline constexpr RGBAColour gold{255, 205, 22, 255};
 inline constexpr RGBAColour white{255, 255, 255, 255};
 inline constexpr RGBAColour warning{225, 0, 0, 255};

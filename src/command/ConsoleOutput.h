@@ -6,7 +6,7 @@
 
 namespace bc {
 
-/// Where lines meant for the user go.
+/// Shows lines to the user. Colour channels are 0 to 255.
 class ConsoleOutput {
   public:
     virtual ~ConsoleOutput() = default;

@@ -30,8 +30,8 @@ void readType(const TiXmlElement& declaration, GameVar& var) {
         var.type = VarType::text;
 }
 
-/// The value of a variable named without arguments, told to the log and to the user; with one its
-/// new value.
+/// Sets the variable to the first argument. Without arguments the log and the console tell its
+/// value.
 void showOrSet(GameVar& var, const std::vector<std::string>& args) {
     if (!args.empty()) {
         var.setString(args.front());
