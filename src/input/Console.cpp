@@ -19,8 +19,9 @@ namespace bc {
 
 namespace {
 
-// Placement in pixels: text from the left edge, lines above the panel's lower edge, the input
-// line above it, between lines, and what stays free below the screen's top.
+// Distances in pixels: from the left edge of the screen to the texts, from the lower edge of the
+// panel to the lines and to the input line, between two lines, and from the highest line to the top
+// of the screen.
 constexpr float leftMargin = 10;
 constexpr float linesAbove = 25;
 constexpr float inputAbove = 5;
@@ -29,11 +30,12 @@ constexpr float topMargin = 5;
 
 constexpr float edgeWidth = 2;
 constexpr int fontSize = 14;
-/// Milliseconds; the cursor shows during the second half.
+/// Milliseconds. The cursor is visible during the second half of each period.
 constexpr float cursorPeriod = 1000;
+/// Drawn below the lines while the console is scrolled back.
 constexpr std::string_view scrolledMark = "^^^^^^^^^^^^^^^^^^^";
 
-/// The date and time of the computer, with the newline that the C library puts behind it.
+/// The local date and time with the newline that ctime_r appends.
 std::string dateAndTime() {
     const std::time_t now = std::time(nullptr);
     std::array<char, 64> buffer{};
@@ -290,7 +292,8 @@ void Console::drawLines(IRenderer& renderer, int height) {
         fonts.drawText(leftMargin, y, scrolledMark);
         y += fonts.textHeight(scrolledMark) + lineGap;
     }
-    // Every character is at least a pixel wide: what lies beyond the screen need not be drawn.
+    // A character is at least one pixel wide, so more characters than the screen has pixels are
+    // never visible.
     const auto mostCharacters = static_cast<std::size_t>(std::max(screenWidth_, 0));
     forEachVisible(y, fonts.textHeight(scrolledMark), [&](const ConLine& line, float lineY) {
         renderer.setColour(line.colour);

@@ -15,6 +15,7 @@ namespace bc {
 
 namespace {
 
+/// The motion times the sensitivity; 0 when the product is too large for a float.
 float scaled(float motion, float sensitivity) {
     const float out = motion * sensitivity;
     return std::isfinite(out) ? out : 0.0F;
@@ -61,7 +62,7 @@ void GameInput::keyDown(int /*sym*/, int /*unicode*/, const std::string& keyName
 }
 
 void GameInput::keyUp(int /*sym*/, int /*unicode*/, const std::string& keyName) {
-    // A copy, since what runs may bind the key anew.
+    // A copy, because the commands may change the binding.
     const std::string command = boundTo(keyName);
     std::vector<std::string> parts;
     tokenise(";", command, parts);

@@ -14,12 +14,15 @@ namespace bc {
 class GameVar;
 class IRenderer;
 
-/// The target "game", in force during play: turns keys and mouse buttons into command text through
-/// the key bindings, releases into the "-" twins of "+" commands, and keeps a cursor of its own
-/// that works while the mouse is grabbed. The player's commands are in a class derived from it.
+/// The input target "game", which is current during play. When a key or mouse button is pressed it
+/// executes the commands bound to it; on release it executes the bound commands that begin with
+/// "+" again, with "-" in its place. It moves a cursor of its own by the motions of the mouse
+/// (mouseX and mouseY, within the window), since the real one does not move while the mouse is
+/// grabbed. A derived class has the player's commands.
 class GameInput : public InputTarget {
   public:
-    /// The cursor stays on this renderer's screen. Not owned; without one the cursor stands still.
+    /// The renderer whose window limits the cursor; not owned. Without one the cursor does not
+    /// move.
     void setRenderer(IRenderer* renderer) { renderer_ = renderer; }
 
     void mouseMove(float x, float y, float relX, float relY) override;
@@ -28,21 +31,22 @@ class GameInput : public InputTarget {
     void keyDown(int sym, int unicode, const std::string& keyName) override;
     void keyUp(int sym, int unicode, const std::string& keyName) override;
 
-    /// Registers bind, unbind and listbinds, whose handlers use this object: the registry must be
-    /// cleared when it goes.
+    /// Registers bind, unbind and listbinds and looks up the variable sensitivity. The commands
+    /// keep a pointer to this object; the registry must be cleared before it is deleted.
     virtual void init();
-    /// The first key in name order that is bound to exactly this command, else "unbound".
+    /// The first key, in the order of their names, that is bound to exactly this command;
+    /// "unbound" when there is none.
     [[nodiscard]] virtual std::string keyForCommand(const std::string& command) const;
-    /// The section of the configuration file that restores the bindings when it is executed.
+    /// Writes the section of the configuration file that restores the bindings when executed.
     virtual void writeBindings(std::ostream& out) const;
-    /// Lets go of everything held, when a level starts.
+    /// Releases all held actions. Called when a level starts.
     virtual void clearActions() {}
 
-    /// Key and command become lower case. A key named "unbound" cannot be bound.
+    /// Binds a command line to a key, both in lower case. The key name "unbound" is ignored.
     void setBinding(std::string_view key, std::string_view command);
-    /// Commands by lower-case key name; an empty one is none.
+    /// The command lines by key name in lower case. An unbound key may have an empty one.
     [[nodiscard]] const std::map<std::string, std::string>& bindings() const { return bindings_; }
-    /// The name under which a mouse button is bound, empty for one that has none.
+    /// The key name of a mouse button; empty for a button that cannot be bound.
     [[nodiscard]] const std::string& mouseButtonName(int button) {
         return mouseButtonNames_[button];
     }
@@ -51,7 +55,7 @@ class GameInput : public InputTarget {
     void bindCommand();
     void unbindCommand();
     void listBindsCommand();
-    /// Empty when nothing is bound.
+    /// The command line bound to a key, empty when there is none.
     [[nodiscard]] std::string boundTo(std::string_view key) const;
 
     std::map<std::string, std::string> bindings_;

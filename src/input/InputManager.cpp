@@ -21,7 +21,7 @@ namespace {
 constexpr int escapeKey = 27;
 constexpr int backquoteKey = 96;
 
-/// SDL's modifier bits in the order of Modifier.
+/// The bit in SDL's modifier mask for each value of Modifier.
 constexpr std::array<int, 11> modifierBits = {0x1000, 0x2000, 0x4000, 0x0040, 0x0080, 0x0001,
                                               0x0002, 0x0100, 0x0200, 0x0400, 0x0800};
 
@@ -98,7 +98,7 @@ bool InputManager::handleEscape() {
         assignTarget("gui");
         return false;
     }
-    // What is on the screen now becomes the picture of a save made from the menus.
+    // A save made from the menus shows the level as its picture, so it is taken before they appear.
     if (renderer_ != nullptr)
         renderer_->grabThumbnail();
     gui_->setVisible(true);

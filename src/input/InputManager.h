@@ -19,7 +19,7 @@ class IGUI;
 class InputTarget;
 class IRenderer;
 
-/// Modifier keys by the index that isModifierDown takes.
+/// The modifier keys; their numbers are the indices of isModifierDown.
 enum class Modifier {
     numLock = 0,
     capsLock,
@@ -34,53 +34,55 @@ enum class Modifier {
     rightMeta
 };
 
-/// Sends every key and mouse event to exactly one of the registered targets, the current one, and
-/// handles the two keys that change it: Escape brings up the menus, the backquote the console.
-/// One object of the application; owns none of what it is given.
+/// Passes every key and mouse event to the current one of the registered targets, and handles the
+/// two keys that change the current target: Escape shows the menus, the backquote opens and closes
+/// the console. The application has one; it owns none of the objects that it gets.
 class InputManager {
   public:
-    /// What the manager works with. Any of them may be null until it exists; what needs it is
-    /// then left out. Set again after one of them was replaced.
+    /// The objects to work with. A null one is left out. Called again when one was replaced.
     void init(IGame* game, IRenderer* renderer, IGUI* gui, Console* console);
 
-    /// Names of the keys, from an XML file for the resource manager. When it cannot be read a log
-    /// line says so and keys have empty names.
+    /// Reads the names of the keys from an XML file (a name for ResourceManager). When that fails
+    /// the log says so and all keys have empty names.
     void loadKeymap(const std::string& path);
-    /// Empty for a key without a name.
+    /// The name of a key by its SDL code; empty for a key without a name.
     [[nodiscard]] const std::string& keyName(int sym) const;
-    /// The lowest code of that name without regard to case; nothing when no key has it.
+    /// The lowest SDL code of a key with this name, which is not case-sensitive; nothing when there
+    /// is none.
     [[nodiscard]] std::optional<int> findKey(std::string_view name) const;
 
-    /// A null target takes the name away.
+    /// Adds or replaces the target with this name; null removes it. Not owned.
     void registerTarget(const std::string& name, InputTarget* target);
-    /// Makes name the current target and tells the old and the new one.
+    /// Makes a target the current one and remembers the previous one. Calls onLoseFocus of the old
+    /// and then onGainFocus of the new target. While a name without a target is current, events are
+    /// dropped.
     void setTarget(const std::string& name);
-    /// The same without telling anyone and without remembering the old one.
+    /// Makes a target the current one. Does not call the targets and keeps the previous one.
     void assignTarget(const std::string& name) { currentTarget_ = name; }
     [[nodiscard]] const std::string& getTarget() const { return currentTarget_; }
     [[nodiscard]] const std::string& getPreviousTarget() const { return previousTarget_; }
 
-    // Events. Positions are window pixels from the top left, buttons SDL's numbers (the wheel is
-    // 4 up and 5 down), unicode the typed character or 0.
+    // Events. Positions are window pixels from the top left. Buttons have SDL's numbers (the wheel
+    // is 4 up and 5 down). sym is SDL's key code; unicode is the typed character or 0.
     void keyEvent(bool pressed, int sym, int unicode);
     void mouseMotion(float x, float y, float relX, float relY);
     void mouseButtonDown(float x, float y, int button);
     void mouseButtonUp(float x, float y, int button);
 
-    /// Before each key event, with SDL's modifier mask.
+    /// Called before each key event with SDL's mask of the modifier keys that are down.
     void updateModifiers(int sdlModMask);
-    /// False for an index that is none.
+    /// False for an index out of range.
     [[nodiscard]] bool isModifierDown(int index) const;
     [[nodiscard]] bool isModifierDown(Modifier modifier) const {
         return isModifierDown(static_cast<int>(modifier));
     }
 
-    /// Back to play: hides the menus, if a level is loaded.
+    /// Hides the menus and goes back to play. Does nothing without a level or visible menus.
     void hideGUI();
 
-    /// Overlay pixels from the bottom left.
+    /// The place of the mouse in the overlay, in pixels from the bottom left.
     [[nodiscard]] const Vector& getMouse2D() const { return mouse2D_; }
-    /// World units; where the mouse was at its last motion.
+    /// The place in the world at which the mouse pointed at its last motion, in world units.
     [[nodiscard]] const Vector& getMouseWorld() const { return mouseWorld_; }
     void setMouseWorld(float x, float y) {
         mouseWorld_.x = x;
@@ -91,7 +93,7 @@ class InputManager {
     [[nodiscard]] float getMouseRelX() const { return mouseRelX_; }
     [[nodiscard]] float getMouseRelY() const { return mouseRelY_; }
 
-    /// The renderer's begin2D or end2D when wanted.
+    /// Calls the renderer's begin2D or end2D if wanted is true.
     void begin2DIf(bool wanted);
     void end2DIf(bool wanted);
 
@@ -100,7 +102,7 @@ class InputManager {
 
     [[nodiscard]] InputTarget* findTarget(const std::string& name) const;
     [[nodiscard]] InputTarget* current() const { return findTarget(currentTarget_); }
-    /// True when the key is used up.
+    /// True when the key must not reach a target.
     bool handleEscape();
     void toggleConsole();
 

@@ -8,8 +8,8 @@
 
 namespace bc {
 
-/// Something that receives the keyboard and the mouse while it is the current target.
-/// Positions are window pixels from the top left; button numbers are SDL's.
+/// Receives the events of keyboard and mouse while InputManager has it as the current target.
+/// Positions are window pixels from the top left; buttons have SDL's numbers.
 class InputTarget {
   public:
     virtual ~InputTarget() = default;
@@ -23,7 +23,7 @@ class InputTarget {
     virtual void mouseUp(float, float, int) {}
     virtual void keyDown(int /*sym*/, int /*unicode*/, const std::string& /*keyName*/) {}
     virtual void keyUp(int /*sym*/, int /*unicode*/, const std::string& /*keyName*/) {}
-    /// True for a target that works in overlay coordinates (mouse2D).
+    /// True when the mouse functions must be called between the renderer's begin2D and end2D.
     [[nodiscard]] virtual bool getUses2D() const { return uses2D; }
     virtual void onLoseFocus() {}
     virtual void onGainFocus() {}
@@ -32,7 +32,8 @@ class InputTarget {
     float mouseY = 0;
     float mouseRelX = 0;
     float mouseRelY = 0;
-    /// Handed over by the input manager before each mouseMove.
+    /// The place of the mouse in the world (world units) and in the overlay (pixels from the bottom
+    /// left). InputManager sets them before each mouseMove.
     Vector mouseWorld;
     Vector mouse2D;
     bool uses2D = false;
