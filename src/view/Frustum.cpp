@@ -48,7 +48,7 @@ void Frustum::setView(const Vector& position, const Vector& lookAt, const Vector
     if (forward.isZero())
         return;
     forward.normalise();
-    // The scene is seen with x to the right while the eye looks along growing z.
+    // The order of the factors makes x grow to the right for an eye that looks along growing z.
     Vector side = cross(up, forward);
     side.normalise();
     const Vector above = cross(forward, side);
@@ -58,8 +58,8 @@ void Frustum::setView(const Vector& position, const Vector& lookAt, const Vector
     near_ = rectangleAround(nearCentre, side * nearWidth_, above * nearHeight_);
     far_ = rectangleAround(farCentre, side * farWidth_, above * farHeight_);
 
-    // The four sides run through the eye. Their normals come from the directions and not from the
-    // corners: far from the world's origin floats cannot tell the near corners apart.
+    // The four side planes contain the eye. Their normals are computed from directions and not from
+    // the corners of the near rectangle, which are equal as floats far from the world's origin.
     const float wide = tangent_ * ratio_;
     planes_[top] = planeThrough(eye, forward * tangent_ - above);
     planes_[bottom] = planeThrough(eye, forward * tangent_ + above);

@@ -12,12 +12,12 @@ namespace bc {
 
 struct Matrix4;
 
-/// What the camera sees, in world units: a pyramid cut off at a near and a far distance and
-/// bounded by six planes whose normals point inside. Until a view is set nothing is outside.
+/// The part of the world that the camera sees, in world units: the inside of six planes whose
+/// normals point inwards. Before a view is set, nothing is outside.
 class Frustum {
   public:
     enum Side { top, bottom, left, right, nearSide, farSide, sideCount };
-    /// Corners of the near or the far rectangle as seen from the eye.
+    /// The corners at which the near or the far plane cuts the side planes, as the eye sees them.
     struct Rectangle {
         Vector topLeft;
         Vector topRight;
@@ -25,11 +25,13 @@ class Frustum {
         Vector bottomRight;
     };
 
-    /// angleDegrees is half of the vertical field of view, ratio is width / height.
+    /// angleDegrees is half of the vertical field of view, ratio is width / height. Takes effect at
+    /// the next setView.
     void setInternals(float angleDegrees, float ratio, float nearDistance, float farDistance);
-    /// Places the eye; a look-at point equal to the position leaves the view as it was.
+    /// Computes planes and corners for an eye at position that looks at lookAt. Does nothing when
+    /// the two are the same place.
     void setView(const Vector& position, const Vector& lookAt, const Vector& up);
-    /// Takes the planes from projection x modelview instead; the corners stay.
+    /// Computes the planes from the product projection x modelview. The corners stay as they are.
     void setPlanes(const Matrix4& clip);
 
     [[nodiscard]] const std::array<Plane, sideCount>& planes() const { return planes_; }
@@ -40,16 +42,17 @@ class Frustum {
     [[nodiscard]] float ratio() const { return ratio_; }
     [[nodiscard]] float nearDistance() const { return nearDistance_; }
     [[nodiscard]] float farDistance() const { return farDistance_; }
-    // Half sizes of the two rectangles.
+    // Half the width and height of the near and the far rectangle.
     [[nodiscard]] float nearWidth() const { return nearWidth_; }
     [[nodiscard]] float nearHeight() const { return nearHeight_; }
     [[nodiscard]] float farWidth() const { return farWidth_; }
     [[nodiscard]] float farHeight() const { return farHeight_; }
 
-    /// True when one plane has all the points behind it. A shape that passes near a corner of the
-    /// view may be taken as inside, never the other way round. No points are never outside.
+    /// Whether the convex shape with these corners is outside, that is, completely behind one of
+    /// the planes. The result may be false for a shape outside near an edge of the view, but it is
+    /// never true for a visible one. False without points.
     [[nodiscard]] bool isOutside(std::span<const Vector> points) const;
-    /// The same for an upright rectangle in the plane of play (z = 0).
+    /// The same for an axis-aligned rectangle at z = 0.
     [[nodiscard]] bool isRectOutside(float minX, float minY, float maxX, float maxY) const;
 
   private:

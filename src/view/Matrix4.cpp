@@ -64,7 +64,8 @@ std::array<double, 4> Matrix4::transform(double x, double y, double z, double w)
 }
 
 std::optional<Matrix4> Matrix4::inverse() const {
-    // Gauss-Jordan elimination with partial pivoting; rows of [a | r].
+    // Gauss-Jordan elimination with partial pivoting: the steps that turn a into the identity turn
+    // the identity r into the inverse of a.
     Matrix4 a = *this;
     Matrix4 r;
     const auto cell = [](Matrix4& matrix, std::size_t row, std::size_t column) -> double& {

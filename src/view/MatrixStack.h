@@ -9,8 +9,9 @@
 
 namespace bc {
 
-/// A stack of transformations whose top is in force. It holds 32; what is pushed beyond shares
-/// the top, and pops beyond the bottom change nothing, so that callers stay balanced either way.
+/// A stack of transformations; the top is the current one. It has 32 levels. Pushes beyond them are
+/// counted, and use the last level, so that the same number of pops undoes them. A pop at the
+/// bottom does nothing.
 class MatrixStack {
   public:
     [[nodiscard]] const Matrix4& top() const { return levels_[index()]; }
@@ -25,7 +26,7 @@ class MatrixStack {
             --depth_;
     }
     [[nodiscard]] std::size_t depth() const { return depth_; }
-    /// One identity.
+    /// Leaves one level, the identity.
     void clear() {
         depth_ = 0;
         levels_[0] = Matrix4{};

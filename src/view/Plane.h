@@ -8,10 +8,9 @@
 
 namespace bc {
 
-/// A plane through all points p with normal . p = d. The side that the normal points to is in
-/// front of it.
+/// The plane of all points p with normal . p = d. The normal points to its front.
 struct Plane {
-    /// Of unit length where distances are wanted in world units.
+    /// Must have length 1 for distance() to be in world units.
     Vector normal;
     float d = 0;
 
@@ -20,8 +19,8 @@ struct Plane {
         return normal.x * p.x + normal.y * p.y + normal.z * p.z - d;
     }
 
-    /// The parameter (0 at from, 1 at to) at which the line through both points meets the plane;
-    /// nothing when it runs parallel to it. It may lie outside 0..1.
+    /// Where the line through both points meets the plane: 0 is at from, 1 is at to, and other
+    /// numbers are possible. Nothing when the line is parallel to the plane.
     [[nodiscard]] std::optional<float> intersect(const Vector& from, const Vector& to) const;
 };
 
