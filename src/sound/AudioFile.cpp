@@ -12,15 +12,16 @@ namespace bc {
 
 namespace {
 
+// Frames a second. SDL's sample rate converter reads past its filter table far outside this range.
 constexpr int minRate = 4000;
 constexpr int maxRate = 192000;
 
-/// Random access to the bytes of a file. Reading past the end gives zeros and ok() turns false.
+/// Reads bytes anywhere in a file. A read past its end returns zeros and makes ok() false.
 class Bytes {
   public:
     explicit Bytes(const std::string& path) : in_(path, std::ios::binary | std::ios::ate) {
         const std::streamoff end = in_ ? static_cast<std::streamoff>(in_.tellg()) : -1;
-        // A folder opens like a file and then claims an absurd length.
+        // A folder can be opened like a file, but its length is the largest number.
         size_ = end < 0 || end == std::numeric_limits<std::streamoff>::max()
                     ? 0
                     : static_cast<std::uint64_t>(end);
@@ -107,7 +108,7 @@ std::optional<AudioFileInfo> readAiff(Bytes& in) {
             const std::uint64_t bits = in.big(at + 14, 2);
             if (bits != 8 && bits != 16)
                 return std::nullopt;
-            // The rate is an 80-bit float: 15 bits of exponent, 64 bits of mantissa.
+            // The rate is an 80-bit float: a sign, 15 bits of exponent and 64 bits of mantissa.
             const int exponent = static_cast<int>(in.big(at + 16, 2) & 0x7fffU) - 16383;
             const double mantissa = static_cast<double>(in.big(at + 18, 8));
             const double rate = std::ldexp(mantissa, exponent - 63);
@@ -147,8 +148,8 @@ std::optional<AudioFileInfo> readVoc(Bytes& in) {
 }
 
 std::optional<AudioFileInfo> readFlac(Bytes& in) {
-    // The first block is always the stream's description: 20 bits of rate, 3 of channels less one,
-    // 5 of sample size, 36 of length.
+    // The first block must be the stream information. From byte 18 on it has 20 bits of rate, 3 of
+    // the number of channels minus one, 5 of the sample size and 36 of the number of frames.
     if ((in.big(4, 1) & 0x7fU) != 0)
         return std::nullopt;
     const std::uint64_t packed = in.big(18, 8);
@@ -159,8 +160,8 @@ std::optional<AudioFileInfo> readOgg(Bytes& in) {
     const std::uint64_t start = 27 + in.little(26, 1);
     if (in.text(start, 7) != std::string_view("\1vorbis", 7))
         return std::nullopt;
-    // A page counts the frames up to its end: the last page has the length. No page is larger
-    // than 65307 bytes.
+    // Each page has the number of frames up to its end, so the last page has the length of the
+    // file. A page has at most 65307 bytes.
     const std::size_t tailBytes =
         static_cast<std::size_t>(std::min<std::uint64_t>(in.size(), 65307U));
     const std::uint64_t tailStart = in.size() - tailBytes;

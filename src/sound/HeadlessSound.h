@@ -6,8 +6,8 @@
 
 namespace bc {
 
-/// The sound system without a device: definitions, channels and the playlist behave as ever, and
-/// what "plays" does so for its length on the game's clock.
+/// The sound system without a device. Definitions, channels and the playlist work as with one; a
+/// sound counts as playing for its length on the game's clock (core/Ticks).
 class HeadlessSound final : public Sound {
   public:
     HeadlessSound();

@@ -16,13 +16,14 @@ namespace bc {
 
 namespace {
 
-// From the quietest to the hottest and back.
+// In this order the music rises from the calmest track to the wildest and falls again.
 constexpr const char* gameTracks[] = {
     "data/sounds/music/stillwater.ogg", "data/sounds/music/slipstream.ogg",
     "data/sounds/music/flashpoint.ogg", "data/sounds/music/undertow.ogg",
     "data/sounds/music/homelight.ogg",
 };
 
+/// Writes a message to the console and to the log.
 void announce(const std::string& message) {
     consolePrint(message);
     logLine(message);
@@ -37,7 +38,7 @@ Playlist::~Playlist() = default;
 void Playlist::start(const std::string& /*name*/) {
     setTracks({std::begin(gameTracks), std::end(gameTracks)});
     const int count = static_cast<int>(tracks_.size());
-    // next() steps on before it plays.
+    // One before the drawn track, because next() plays the following one.
     index_ = (count == 1 ? 0 : randomInt() % count) - 1;
 }
 

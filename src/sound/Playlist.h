@@ -14,11 +14,11 @@ namespace bc {
 class Mixer;
 class MixerMusic;
 
-/// The music of the game, one track after another, round and round, from a random one. Messages
-/// about tracks that do not play go to the console and to the log.
+/// Plays tracks on a mixer. When a track cannot be played the console and the log say so, and no
+/// music plays until the next call.
 class Playlist final : public IPlaylist {
   public:
-    /// The mixer is not owned and outlives the list.
+    /// The mixer is not owned; it must outlive the list.
     explicit Playlist(Mixer& mixer);
     ~Playlist() override;
     Playlist(const Playlist&) = delete;
@@ -27,30 +27,30 @@ class Playlist final : public IPlaylist {
     void start(const std::string& name) override;
     void next() override;
     void previous() override;
-    /// An index outside the list plays nothing.
     void play(int index) override;
     void stop() override;
     void printInfo() override;
 
-    /// Other tracks than the game's own; the next one to play is the first.
+    /// Replaces the tracks (names for files::resolve). The next call of next() plays the first.
     void setTracks(std::vector<std::string> tracks);
     [[nodiscard]] const std::vector<std::string>& tracks() const { return tracks_; }
-    /// -1 before the first track.
+    /// -1 before the first track was played.
     [[nodiscard]] int currentIndex() const { return index_; }
-    /// The path of the current track, empty when there is none.
+    /// The name of the current track; empty when there is none.
     [[nodiscard]] std::string currentTrack() const;
-    /// Whether no track of the list has played since a whole round of them was tried.
+    /// True when as many attempts in a row have failed as there are tracks.
     [[nodiscard]] bool isUnplayable() const { return failures_ >= tracks_.size(); }
-    /// Every track is worth another try, as after a change of the device.
+    /// Forgets the failures. Called when the device has changed.
     void retry() { failures_ = 0; }
 
   private:
+    /// Counts a failure and reports it.
     void fail(const std::string& message);
 
     Mixer& mixer_;
     std::vector<std::string> tracks_;
     int index_ = -1;
-    std::size_t failures_ = 0;  ///< tracks in a row that did not play
+    std::size_t failures_ = 0;  ///< since a track was last played
     std::unique_ptr<MixerMusic> music_;
 };
 

@@ -49,7 +49,7 @@ bool SdlMixer::open(int frequency, int outputs, int bufferSize) {
     open_ = Mix_OpenAudio(frequency, AUDIO_S16LSB, outputs, bufferSize) == 0;
     if (!open_) {
         error_ = SDL_GetError();
-        // SDL counts as started even when it found no driver, and would look for none again.
+        // Otherwise SDL would not look for a driver again at the next attempt.
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
     }
     return open_;
@@ -81,7 +81,7 @@ int SdlMixer::groupChannels(int first, int last, int group) {
 }
 
 std::unique_ptr<MixerSample> SdlMixer::loadSample(const std::string& diskPath) {
-    // The decoders believe what a file's header says, so only files with sane ones reach them.
+    // SDL_mixer's decoders trust the headers of a file, so these are checked first.
     if (!open_ || !readAudioFileInfo(diskPath))
         return nullptr;
     SDL_RWops* file = SDL_RWFromFile(diskPath.c_str(), "rb");
@@ -90,7 +90,7 @@ std::unique_ptr<MixerSample> SdlMixer::loadSample(const std::string& diskPath) {
 }
 
 int SdlMixer::play(int channel, MixerSample& sample, int loops) {
-    // SDL_mixer hands back a channel beyond its range as if it played there.
+    // SDL_mixer returns a channel out of its range as if the sample played there.
     if (!open_ || channel < -1 || channel >= channelCount_)
         return -1;
     return Mix_PlayChannelTimed(channel, static_cast<SdlSample&>(sample).chunk(), loops, -1);

@@ -6,7 +6,8 @@
 
 namespace bc {
 
-/// The sound device, through SDL_mixer. One at a time, since SDL_mixer is process-wide.
+/// Plays on the sound device through SDL_mixer. There must be only one at a time, because
+/// SDL_mixer's state belongs to the process.
 class SdlMixer final : public Mixer {
   public:
     SdlMixer() = default;
@@ -35,8 +36,8 @@ class SdlMixer final : public Mixer {
     void onMusicFinished(void (*hook)()) override;
 
   private:
-    // SDL_mixer touches freed memory when its channels are used after it was closed, so every
-    // call that reaches them asks this first.
+    // Every function that uses a channel checks this, because SDL_mixer would use freed memory
+    // after it was closed.
     bool open_ = false;
     int channelCount_ = 0;
     std::string error_;

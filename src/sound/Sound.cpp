@@ -20,13 +20,13 @@ namespace bc {
 
 namespace {
 
-// Signed 16-bit little-endian, as the log has always named it.
+// SDL's number for signed 16-bit little-endian samples, for the log.
 constexpr int deviceFormat = 0x8010;
 
-// Units from the listener at which a positional sound has faded away.
+// The distance from the listener, in world units, from which on a positional sound is silent.
 constexpr double hearingRange = 480.0;
 
-// What a variable stands for while it is not declared.
+// The values of variables that are not declared.
 constexpr int defaultVolume = 128;
 constexpr int defaultFrequency = 44100;
 constexpr int defaultOutputs = 2;
@@ -36,7 +36,7 @@ int valueOf(const GameVar* var, int undeclared) {
     return var ? var->intValue() : undeclared;
 }
 
-// The sound system whose music the hook speaks of.
+// The sound system that musicFinishedHook informs. The hook runs on the mixer's thread.
 std::atomic<Sound*> musicOwner = nullptr;
 
 void musicFinishedHook() {
@@ -80,7 +80,7 @@ bool Sound::openAudio() {
         reloadSamples();
     sampleFrequency_ = frequency;
     sampleOutputs_ = outputs;
-    // A device that was reopened starts at full volume.
+    // A device starts at full volume whenever it is opened.
     applyVolume();
     applyMusicVolume();
     resumeLoops();
@@ -90,8 +90,9 @@ bool Sound::openAudio() {
     return true;
 }
 
-// Samples are converted to the device's rate when they are loaded; after a change they would play
-// at a wrong pitch. A file that has gone since keeps its old data.
+// Samples are converted to the rate of the device when they are loaded. After a change of the rate
+// they would play at a wrong pitch, so they are loaded again. A sample whose file cannot be read
+// any more keeps its data.
 void Sound::reloadSamples() {
     for (auto& sample : samples_) {
         const auto file = files::resolve(sample->path);
@@ -101,8 +102,8 @@ void Sound::reloadSamples() {
     }
 }
 
-// What plays until it is stopped is started once: whoever did holds the channel and takes it for
-// playing. Everything else ends with the device.
+// A sound that repeats for ever is started only once by its owner, who relies on its channel. It is
+// started again on that channel when the device was reopened. All other sounds end with the device.
 void Sound::resumeLoops() {
     for (int i = 0; i < channelCount; ++i) {
         SoundChannelInfo& info = channels_[static_cast<std::size_t>(i)];
@@ -187,7 +188,8 @@ void Sound::setAudioParams(int frequency, int channels, int bufferSize) {
     const int oldFrequency = valueOf(frequencyVar_, defaultFrequency);
     const int oldChannels = valueOf(channelsVar_, defaultOutputs);
     const int oldBuffer = valueOf(bufferVar_, defaultBuffer);
-    // The text of the variables stays until the player confirms the settings elsewhere.
+    // Only the numbers of the variables change. Their texts, which are the saved settings, change
+    // when the player confirms them.
     const auto put = [this](int f, int c, int b) {
         if (frequencyVar_)
             frequencyVar_->setIntOnly(f);
@@ -298,7 +300,7 @@ void Sound::updateListener(const Vector& position) {
         SoundChannelInfo& info = channels_[static_cast<std::size_t>(i)];
         float volume = master;
         if (info.positional) {
-            // Beyond the range a volume below 0 would turn into a loud one.
+            // Not below 0, since its product with a negative master volume would be a loud one.
             const double nearness =
                 std::max(1 - distance(position, info.position) / hearingRange, 0.0);
             volume = static_cast<float>(std::trunc(nearness * volume));
@@ -330,8 +332,8 @@ void Sound::nextTrack() {
 }
 
 void Sound::update() {
-    // Without a device or a single sound track nothing ever starts, and trying each frame would
-    // fill the log.
+    // Without a device or when no track can be played, an attempt in each frame would only fill the
+    // log.
     if (initialised_ && !playlist_.isUnplayable() && !mixer_->isMusicPlaying() &&
         !mixer_->isMusicPaused())
         nextTrack();

@@ -20,39 +20,40 @@ namespace bc {
 
 class GameVar;
 
-/// A loaded sample and how its definition wants it played.
+/// A loaded sample and the settings of its definition.
 struct SoundSample {
     std::unique_ptr<MixerSample> data;
     std::string path;
-    int id = -1;       ///< -1 when loaded by name
-    int channel = -1;  ///< a fixed mixing channel, or -1 for any free one
-    int volume = 100;  ///< percent; only positional sounds follow it
+    int id = -1;       ///< -1 for a sample that was loaded by name
+    int channel = -1;  ///< the channel to play it on, -1 for any free one
+    int volume = 100;  ///< percent; used only for positional sounds
     bool positional = false;
 };
 
-/// What was last started on a mixing channel.
+/// The sound that was last started on a channel.
 struct SoundChannelInfo {
     bool playing = false;
     bool positional = false;
     Vector position;
     int sampleIndex = -1;
-    int volume = 100;
-    bool looping = false;
-    bool endless = false;  ///< plays until it is stopped
+    int volume = 100;      ///< percent
+    bool looping = false;  ///< is repeated at least once
+    bool endless = false;  ///< is repeated until it is stopped
 };
 
-/// Samples and music. Every play request keeps to the limits on sounds at once, which count the
-/// channels found playing at the last updateListener. Volume and device settings are the variables
-/// volume, musicvolume, soundfrequency, soundchannels and soundbuffer; while the variable
-/// logsounds is 1, each request writes a line to the log. Call shutdown before the registries of
-/// commands and variables are cleared.
+/// Samples and music on a mixer. A request to play is refused while too many channels play; this
+/// number is counted only in updateListener. The variables volume, musicvolume, soundfrequency,
+/// soundchannels and soundbuffer are the settings. While the variable logsounds is 1, each request
+/// writes a line to the log. shutdown must be called before the registries of commands and
+/// variables are cleared.
 class Sound : public ISound {
   public:
     static constexpr int channelCount = 32;
-    /// Channels 0 to 9 are only played on by name; a sound on any channel takes one of the others.
+    /// Sounds play on channels 0 to 9 only when a request or a definition names the channel; a
+    /// sound on "any free channel" gets one of the others.
     static constexpr int reservedChannels = 10;
 
-    /// Plays on the sound device.
+    /// A sound system on the sound device.
     Sound();
     ~Sound() override;
     Sound(const Sound&) = delete;
@@ -96,43 +97,52 @@ class Sound : public ISound {
     [[nodiscard]] IPlaylist* getPlaylist() override;
     /// Null when the sample is not loaded or there is no device.
     [[nodiscard]] virtual SoundSample* getSample(const std::string& path);
-    /// The index of the new sample, or -1 and a log line.
+    /// Loads a sample and returns its index; -1 and a log line when that fails, -1 alone without a
+    /// device.
     virtual int loadSample(int id, int channel, int volume, bool positional,
                            const std::string& path);
 
-    // Looking inside.
+    // For dumps and tests.
+    /// True while the device is open.
     [[nodiscard]] bool isInitialised() const { return initialised_; }
-    /// Channels found playing at the last updateListener.
+    /// The number of channels that played at the last updateListener.
     [[nodiscard]] int playingCount() const { return playingCount_; }
     [[nodiscard]] const std::vector<std::unique_ptr<SoundSample>>& samples() const {
         return samples_;
     }
-    /// The sample that an id stands for, -1 when there is none.
+    /// The index of the sample with this id, -1 when there is none.
     [[nodiscard]] int indexOfId(int id) const;
     [[nodiscard]] const SoundChannelInfo& channelInfo(int channel) const {
         return channels_.at(static_cast<std::size_t>(channel));
     }
     [[nodiscard]] const Playlist& playlist() const { return playlist_; }
-    /// Appends an element "sound" with volumes, settings, the current track and one child for each
-    /// channel that ever played.
+    /// Appends an element "sound" with the volumes, the settings, the current track and one child
+    /// for each channel on which a sound was started.
     void dumpState(TiXmlElement& parent) const;
 
   protected:
     explicit Sound(std::unique_ptr<Mixer> mixer);
 
   private:
+    /// What a play function was asked for.
     struct Request {
         int id = -1;
         int index = -1;
         int channel = -1;
         Vector position = {};
         int loops = 0;
+        /// The request is refused while more channels play.
         int mostPlaying = 0;
+        /// The name that was asked for, for the log when there is no such sample.
         std::string_view name = {};
     };
 
+    /// Null for an index out of range.
     [[nodiscard]] SoundSample* sampleAt(int index) const;
+    /// The index of the sample with this name, which is loaded if necessary; -1 when that fails.
     [[nodiscard]] int findOrLoad(int channel, int volume, bool positional, const std::string& name);
+    /// All requests end here, in one of the two ways below: as sounds of the world at a position,
+    /// or as sounds of the player and the menus. Returns the channel or -1.
     int start(const Request& request);
     int startAt(Request request);
     int startPlain(Request request);
@@ -155,13 +165,14 @@ class Sound : public ISound {
     GameVar* channelsVar_ = nullptr;
     GameVar* frequencyVar_ = nullptr;
     GameVar* logVar_ = nullptr;
-    /// The file of definitions whose samples wait for a device, empty when none do.
+    /// A file of definitions that was loaded without a device and must be loaded again with one;
+    /// empty for none.
     std::string waitingDefs_;
-    // What the loaded samples were converted to.
+    /// The format to which the loaded samples were converted.
     int sampleFrequency_ = 0;
     int sampleOutputs_ = 0;
     Playlist playlist_;
-    // Set on the mixer's thread.
+    /// The mixer's thread sets it.
     std::atomic<bool> musicFinished_ = false;
 };
 

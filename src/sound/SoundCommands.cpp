@@ -12,6 +12,7 @@ namespace bc {
 
 namespace {
 
+/// Raises (direction 1) or lowers (-1) the volume by the first argument of the command, or by 1.
 void changeVolume(Sound& sound, int direction) {
     const std::int64_t step = commands().argCount() > 0 ? parseInt(commands().arg(0)) : 1;
     const std::int64_t volume = sound.getVolume() + direction * step;

@@ -12,8 +12,8 @@ namespace {
 
 constexpr const char* testSound = "data/sounds/test/test.ogg";
 
-// A request is dropped while more than so many channels play. Sounds of the world are the first
-// to go, so that those of the player and the menus still come through.
+// A request is refused while more channels than this play. The limit for sounds of the world (At)
+// is lower, so that those of the player and the menus are heard in every battle.
 constexpr int mostPlayingPlain = 10;
 constexpr int mostPlayingAt = 5;
 
@@ -30,7 +30,6 @@ int Sound::findOrLoad(int channel, int volume, bool positional, const std::strin
     return index < 0 ? loadSample(-1, channel, volume, positional, name) : index;
 }
 
-// Every request ends here, the refused ones too.
 int Sound::start(const Request& request) {
     const SoundSample* sample = sampleAt(request.index);
     int channel = -1;
@@ -118,7 +117,8 @@ int Sound::playId(int id, int loops) {
 void Sound::playTestSound() {
     if (!initialised_)
         return;
-    // Heard however many sounds play: it answers the question whether anything can be heard.
+    // It is played however many sounds play already: the player wants to know whether and how loud
+    // sound is heard.
     const int index = findOrLoad(-1, 100, false, testSound);
     start({.index = index, .mostPlaying = channelCount, .name = testSound});
 }

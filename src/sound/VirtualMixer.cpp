@@ -19,6 +19,7 @@ struct VirtualMusic final : MixerMusic {
     std::uint32_t lengthMs = 0;
 };
 
+/// A sample or a piece of music that knows only its length; null when the file cannot be read.
 template <class Made, class Base>
 std::unique_ptr<Base> measured(const std::string& diskPath) {
     const auto info = readAudioFileInfo(diskPath);
@@ -145,7 +146,7 @@ bool VirtualMixer::isMusicPaused() const {
 }
 
 void VirtualMixer::onMusicFinished(void (*)()) {
-    // Nothing here has a thread to call from; whoever wants to know asks isMusicPlaying.
+    // There is no thread that could call the hook. Sound asks isMusicPlaying every frame anyway.
 }
 
 }  // namespace bc

@@ -9,9 +9,9 @@
 
 namespace bc {
 
-/// A mixer without a device that keeps all books: files are looked at (a missing or broken one
-/// fails as ever), and samples and music "play" for their length on the game's clock. With a
-/// virtual clock a run therefore does the same each time.
+/// A mixer without a device. It reads the headers of files (and fails for a missing or damaged
+/// one), and samples and music count as playing for their length on the game's clock (core/Ticks).
+/// With the virtual clock, two runs of the same game therefore do the same.
 class VirtualMixer final : public Mixer {
   public:
     [[nodiscard]] bool open(int frequency, int outputs, int bufferSize) override;
@@ -35,7 +35,8 @@ class VirtualMixer final : public Mixer {
     void onMusicFinished(void (*hook)()) override;
 
   private:
-    /// Something that began at a tick and lasts for so many milliseconds.
+    /// A sample or music that was started at startTicks and plays for lengthMs milliseconds, or
+    /// until it is stopped.
     struct Voice {
         bool started = false;
         bool endless = false;
