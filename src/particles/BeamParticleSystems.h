@@ -6,10 +6,11 @@
 
 namespace bc {
 
-/// Systems whose particles are bands from the place where they were born to the second one; both
-/// are drawn this much nearer than the particle.
+/// Base of the systems whose particles are drawn as bands from the place where they were born to
+/// their second place.
 class BeamParticleSystem : public ParticleSystem {
   public:
+    /// World units by which a band is drawn nearer to the viewer than its particle.
     static constexpr float raise = 0.2F;
 
     using ParticleSystem::ParticleSystem;
@@ -17,15 +18,16 @@ class BeamParticleSystem : public ParticleSystem {
 
   protected:
     [[nodiscard]] bool drawsBeams() const final { return true; }
-    /// One particle of the batch.
+    /// Adds the band of one particle, which has this width, to the batch.
     virtual void addBand(QuadBatch& batch, const Vector& from, const Vector& to, float z,
                          float width, QuadBatch::Bytes colour) const = 0;
 };
 
-/// "rail": a textured beam as wide as the particle to either side, the image repeated along it.
+/// "rail": a beam that reaches the width of the particle to either side of the line. The image is
+/// repeated along it.
 class RailParticleSystem final : public BeamParticleSystem {
   public:
-    /// World units of beam that one image covers.
+    /// World units of the beam that the image covers once.
     static constexpr float pieceLength = 64;
 
     RailParticleSystem() : BeamParticleSystem(ParticleKind::rail) {}
@@ -35,7 +37,7 @@ class RailParticleSystem final : public BeamParticleSystem {
                  QuadBatch::Bytes colour) const override;
 };
 
-/// "tracer": a line of the particle's width, the image once along it.
+/// "tracer": a band as wide as the particle. The image covers it once.
 class TracerParticleSystem final : public BeamParticleSystem {
   public:
     TracerParticleSystem() : BeamParticleSystem(ParticleKind::tracer) {}

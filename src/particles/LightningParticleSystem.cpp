@@ -13,7 +13,7 @@ namespace {
 const std::array<std::string, 2> images = {"data/particles/lightning2.png",
                                            "data/particles/lightning3.png"};
 
-/// -1, 0 or 1 world units, equally often.
+/// -1, 0 or 1 world units with equal chances.
 float jitter() {
     return static_cast<float>(looksRandom().integer() % 3 - 1);
 }
@@ -55,7 +55,7 @@ void LightningParticleSystem::addVariant(QuadBatch& batch, int variant) const {
         const float z = p.z[i] + raise;
         const int fainter = steps > 0 ? colour.a / steps : 0;
         for (int pass = 0; pass < steps; ++pass) {
-            // Twice: as it is and mirrored, so that two arcs twine round each other.
+            // The image and its mirror image together look like two arcs wound round each other.
             batch.addBeam(from, to, z, beamWidth, colour, false);
             batch.addBeam(from, to, z, beamWidth, colour, true);
             colour.a = static_cast<std::uint8_t>(colour.a - fainter);

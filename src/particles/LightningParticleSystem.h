@@ -6,22 +6,22 @@
 
 namespace bc {
 
-/// "lightning": a bolt of short beams, one a particle, each with one of three images.
+/// "lightning": a bolt of short beams. Each particle is one beam, with one of three images.
 class LightningParticleSystem final : public VariantParticleSystem {
   public:
-    /// World units from joint to joint of a bolt.
+    /// The length of a beam in world units, measured along the straight line of the bolt.
     static constexpr float segmentLength = 32;
     /// World units that a beam reaches to either side.
     static constexpr float beamWidth = 8;
-    /// How much nearer than the particle it is drawn.
+    /// World units by which a beam is drawn nearer to the viewer than its particle.
     static constexpr float raise = 0.2F;
 
     LightningParticleSystem();
-    /// The images besides the definition's.
+    /// The names of the images besides the one of the definition.
     [[nodiscard]] static std::span<const std::string> extraImages();
 
-    /// The bolt: joints that wander off the straight line as they go, the last one at the end. As
-    /// long as the pool allows.
+    /// Emits a bolt. Each joint is up to one unit farther off the straight line than the one before
+    /// it. The bolt ends early when the pool is full.
     void emitBetween(const Vector& from, const Vector& to) override;
 
   protected:

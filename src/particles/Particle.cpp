@@ -8,6 +8,7 @@ namespace bc {
 
 namespace {
 
+/// A colour channel after dt seconds, kept within 0 to 255.
 float fade(float channel, float change, float dt) {
     return std::clamp(channel + change * dt, 0.0F, 255.0F);
 }

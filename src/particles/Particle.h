@@ -7,37 +7,39 @@
 
 namespace bc {
 
-/// One particle as a value: what a system fills in at its birth, and the view that the per-particle
-/// hook gets of one in the pool. World units and seconds.
+/// One particle as a value. A system fills one in for each new particle; ParticlePool stores the
+/// same members in arrays. Lengths are world units, times seconds, colour channels 0 to 255.
 struct Particle {
     Vector pos;
-    /// The far end of a beam.
+    /// The other end of a beam.
     Vector second;
     Vector vel;
     Vector acc;
     RGBAColour colour;
-    /// Change a second.
+    /// Change of the colour in a second.
     RGBAColour colourVel{0, 0, 0, 0};
     float width = 0;
     float height = 0;
+    /// Change of the size in a second.
     float widthChange = 0;
     float heightChange = 0;
     float halfWidth = 0;
     float halfHeight = 0;
     float age = 0;
     float lifeTime = 0;
-    /// Never dies of age.
+    /// True when the particle does not die at the end of lifeTime.
     bool immortal = false;
-    /// Which of its system's images it is drawn with.
+    /// The index of the image with which it is drawn, for systems with several images.
     int variant = 0;
 
-    /// Sets the half sizes as well.
+    /// Sets the size and the half sizes.
     void setSize(float newWidth, float newHeight);
-    /// The size it has one second after its birth, however long it lives; after setSize.
+    /// Sets the change of the size so that one second later the particle has this size, however
+    /// long it lives. Called after setSize.
     void setEndSize(float endWidth, float endHeight);
-    /// Units a second.
+    /// Sets the change of the size in units a second.
     void setSizeChange(float newWidthChange, float newHeightChange);
-    /// Moves, fades, grows and ages by dt seconds. False when it has outlived its time.
+    /// Moves, fades, grows and ages the particle by dt seconds. False when it is dead afterwards.
     bool update(float dt);
 };
 

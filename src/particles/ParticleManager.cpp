@@ -19,12 +19,13 @@ namespace bc {
 
 namespace {
 
-/// Off-screen systems catch up with what they missed when it is more than this many seconds.
+/// Seconds after which the particles of a system out of view are moved again.
 constexpr float offScreenStep = 0.1F;
 
 constexpr int smallestPool = 16;
 
-/// The pool size of so many particles: smallestPool << index is enough for them.
+/// The index of the smallest pool for this many particles; the pool with an index holds
+/// smallestPool << index.
 std::size_t poolIndex(int maxParticles) {
     std::size_t index = 0;
     while ((smallestPool << index) < maxParticles)
@@ -221,7 +222,7 @@ int ParticleManager::particleCount() const {
 }
 
 void ParticleManager::update(float dt, const Frustum& view) {
-    // By index, since an observer that is told may start and clear systems.
+    // By index, because an observer may start new systems and clear all systems.
     for (std::size_t i = 0; i < systems_.size();) {
         ParticleSystem& system = *systems_[i];
         const bool offScreen = system.isCulled() && system.isVisible() &&
@@ -269,7 +270,7 @@ void ParticleManager::reloadTextures(IRenderer& renderer) {
 }
 
 void ParticleManager::clearSystems() {
-    // Observers may start new effects; those stay.
+    // Systems that an observer starts meanwhile are not cleared.
     std::vector<std::unique_ptr<ParticleSystem>> ended;
     ended.swap(systems_);
     systems_.reserve(systemLimit);
@@ -278,7 +279,7 @@ void ParticleManager::clearSystems() {
 }
 
 ParticleSystem* ParticleManager::find(int id) {
-    // Ids grow in the order of the list.
+    // The list is sorted by id, because each new system gets a higher one than all before it.
     const auto at =
         std::lower_bound(systems_.begin(), systems_.end(), id,
                          [](const auto& system, int wanted) { return system->id() < wanted; });

@@ -22,14 +22,16 @@ namespace bc {
 class Frustum;
 class IRenderer;
 
-/// Owns the definitions and every running particle system. Systems that have ended are kept and
-/// used again, so that effects cost no allocation once as many of a kind have run before.
+/// Owns the definitions and all running particle systems. It keeps systems that have ended and uses
+/// them again, so that starting an effect allocates nothing when as many effects of its kind have
+/// run at once before.
 class ParticleManager {
   public:
-    /// Bounds on what a definition file or a flood of effects can ask for.
+    /// Limits for definitions and for systems that run at the same time.
     static constexpr std::size_t definitionLimit = 1024;
     static constexpr std::size_t systemLimit = 2048;
-    /// Room for particles over all systems, running or kept for later (about 110 bytes each).
+    /// The limit for the particles that the pools of all systems, running or kept, have room for. A
+    /// particle takes about 110 bytes.
     static constexpr int particleRoomLimit = 1 << 18;
 
     ParticleManager();
@@ -37,42 +39,43 @@ class ParticleManager {
     ParticleManager(const ParticleManager&) = delete;
     ParticleManager& operator=(const ParticleManager&) = delete;
 
-    /// Back to the state after construction: no systems, no definitions, ids from the beginning.
+    /// Ends all systems, deletes all definitions and restarts the ids.
     void clear();
-    /// The built-in definition "default", for names that nobody defined.
+    /// Adds the built-in definition "default", which is used for unknown names.
     void makeDefaultDefinition();
-    /// Adds the file's definitions; a later one of the same id replaces the earlier (systems that
-    /// run keep theirs). A file that cannot be read leaves everything as it was, with a log line.
+    /// Adds the definitions of an XML file (a name for ResourceManager). Changes nothing and writes
+    /// a log line when the file cannot be read.
     void loadDefinitions(const std::string& fileName);
-    /// Adds a definition for every child element, whatever its name, up to definitionLimit.
+    /// Adds a definition for each child element, whatever its name. Stops at definitionLimit, with
+    /// a log line.
     void readDefinitions(const TiXmlElement& root);
     [[nodiscard]] bool hasDefinition(std::string_view id) const;
     [[nodiscard]] std::size_t definitionCount() const { return definitions_.size(); }
-    /// Stores one definition, as if it were read from a file.
+    /// Adds a definition, or replaces the one with the same id. Running systems keep the old one.
     void addDefinition(ParticleSystemParams definition);
 
-    /// Starts a system of the named definition at the origin, without particles; the manager keeps
-    /// it. An unknown name is logged and "default" used instead. Null when that is missing too or
-    /// when the limits above are reached.
+    /// Starts a system at the origin, without particles; the manager owns it. An unknown name is
+    /// logged and gets the definition "default". Null when there is no definition or the limits are
+    /// reached.
     ParticleSystem* createFromDefinition(std::string_view name);
 
-    /// Living particles of all systems.
+    /// The number of living particles in all systems.
     [[nodiscard]] int particleCount() const;
-    /// Advances every system by dt seconds. What lies outside the view is moved ten times a second
-    /// of its own time only.
+    /// Advances all systems by dt seconds and ends those whose time is over. The particles of
+    /// systems outside the view are moved only ten times a second, in larger steps.
     void update(float dt, const Frustum& view);
-    /// Draws the visible systems that are in the renderer's view, in the order of their start.
-    /// Depth writes are on and blending is ordinary transparency afterwards.
+    /// Draws the visible systems that are in the renderer's view, in the order in which they were
+    /// started. Turns depth writes on and alpha blending on afterwards.
     void draw(IRenderer& renderer);
-    /// Draws one system wherever it is, visible or not, with depth writes as they are.
+    /// Draws one system even if it is invisible or out of view. Does not change depth writes.
     void drawSystem(IRenderer& renderer, ParticleSystem& system);
-    /// Loads the textures of all definitions and makes the running systems fetch theirs again.
-    /// Called after loading definitions and whenever the renderer has emptied its cache.
+    /// Loads the textures of all definitions and makes the running systems look up theirs again.
+    /// Called after definitions were loaded and whenever the renderer has unloaded its textures.
     void reloadTextures(IRenderer& renderer);
 
-    /// Ends all systems, their observers told.
+    /// Ends all systems and calls their observers.
     void clearSystems();
-    /// The running systems in the order of their start.
+    /// The running systems in the order in which they were started.
     [[nodiscard]] std::span<const std::unique_ptr<ParticleSystem>> systems() const {
         return systems_;
     }
@@ -80,38 +83,44 @@ class ParticleManager {
     [[nodiscard]] ParticleSystem* find(int id);
 
   private:
-    /// Pools are made in sizes of 16 << n particles.
+    /// The number of different pool sizes: 16, 32 and so on up to 4096 particles.
     static constexpr std::size_t poolSizes = 9;
 
+    /// A kept or a new system for this name and number of particles; null when the limits are
+    /// reached.
     std::unique_ptr<ParticleSystem> createSystem(std::string_view name, int maxParticles);
+    /// Calls the observers of a system that has ended and keeps the system.
     void retire(std::unique_ptr<ParticleSystem> system);
-    /// Ends the oldest system of which nothing will be seen again (a burst whose definition gives
-    /// it no end); false when there is none.
+    /// Ends the oldest system that is spent (ParticleSystem::isSpent), such as a burst whose
+    /// definition has no end. False when there is none.
     bool endSpent();
-    /// Throws away kept systems until there is room for this many particles more.
+    /// Deletes kept systems until the limit leaves room for this many particles more. False when
+    /// that is not enough.
     bool makeRoom(int particles);
 
     using Shelf = std::vector<std::unique_ptr<ParticleSystem>>;
 
     std::map<std::string, std::shared_ptr<const ParticleSystemParams>, std::less<>> definitions_;
     std::vector<std::unique_ptr<ParticleSystem>> systems_;
-    /// Systems that have ended, by kind and pool size.
+    /// The kept systems, by kind and pool size.
     std::array<std::array<Shelf, poolSizes>, particleKinds> retired_;
     QuadBatch batch_;
+    /// The particles that all pools have room for.
     int particleRoom_ = 0;
     int nextId_ = 1;
+    /// The log has said that the limits are reached; it says so again after a system was started.
     bool fullLogged_ = false;
 };
 
 /// The process-wide manager.
 ParticleManager& particleManager();
 
-/// Starts an effect: a system of the named definition at the place, drawn raise units nearer than
-/// it, with its initial particles. Null when createFromDefinition has none to give.
+/// Starts a system with its initial particles at a place in the world, drawn raise units nearer to
+/// the viewer than that. Null when createFromDefinition returns null.
 ParticleSystem* startParticles(std::string_view name, const Vector& position, float raise = 0.2F);
 
-/// The same between two places: the beam, bolt or streak of "rail", "tracer", "lightning" and
-/// "plasma" from one place to the other.
+/// Starts a system that reaches from one place to another, such as "rail", "tracer", "lightning"
+/// and "plasma" (ParticleSystem::emitBetween). Otherwise like startParticles.
 ParticleSystem* startBeam(std::string_view name, const Vector& from, const Vector& to,
                           float raise = 0.2F);
 

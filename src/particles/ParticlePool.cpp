@@ -14,8 +14,8 @@ using Block = ParticlePool::Block;
 constexpr int lanes = ParticlePool::lanes;
 constexpr float immortalLife = std::numeric_limits<float>::max();
 
-// One loop for each group of quantities: each is short enough for the compiler to keep in
-// registers, and with a fixed count it uses whole vector registers.
+// One loop for each member: the compiler vectorises a loop this short, and for a fixed count it
+// uses whole vector registers.
 void drift(float* value, const float* change, float dt, int count) {
     for (int i = 0; i < count; ++i)
         value[i] += change[i] * dt;
@@ -137,7 +137,8 @@ void ParticlePool::move(float dt) {
 void ParticlePool::removeDead() {
     int i = 0;
     while (i < size_) {
-        // Most blocks are all alive; lanes behind the last particle at worst cost a closer look.
+        // Most blocks have no dead particle. The unused lanes of the last block are looked at, too;
+        // what they contain can only make the block be searched one by one.
         if (i % lanes == 0 && !anyDead(blocks_[static_cast<std::size_t>(i / lanes)])) {
             i += lanes;
             continue;
@@ -175,7 +176,8 @@ bool ParticlePool::extent(bool twoEnded, Extent& out) const {
             e.maxY = std::max(e.maxY, p.secondY[i]);
         }
     });
-    // Half the size for quads, the whole width for beams: the larger serves both.
+    // A quad reaches half its size to each side, a beam its whole width. The larger one is right
+    // for both.
     out = {e.minX - margin, e.minY - margin, e.maxX + margin, e.maxY + margin};
     return true;
 }

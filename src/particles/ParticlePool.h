@@ -9,9 +9,8 @@
 
 namespace bc {
 
-/// The particles of one system, the living ones first. They are kept in blocks of eight, each
-/// quantity of the eight side by side, so that the compiler moves several at once and a block
-/// touches each cache line once.
+/// The particles of one system. They are stored in blocks of eight particles; in a block, the eight
+/// values of each member stand side by side, so that the compiler can compute them together.
 class ParticlePool {
   public:
     static constexpr int lanes = 8;
@@ -24,42 +23,43 @@ class ParticlePool {
         float width[lanes], height[lanes], widthChange[lanes], heightChange[lanes];
         float r[lanes], g[lanes], b[lanes], a[lanes];
         float dr[lanes], dg[lanes], db[lanes], da[lanes];
-        /// A life of immortalLife never ends.
+        /// The life of an immortal particle is the largest float.
         float age[lanes], life[lanes];
         int variant[lanes];
     };
 
-    /// Empties it and lets it hold up to limit particles; allocates only when it never held as
-    /// many.
+    /// Removes all particles and sets the limit for their number. Allocates only when the limit is
+    /// above the capacity.
     void reset(int limit);
 
     [[nodiscard]] int size() const { return size_; }
     [[nodiscard]] int limit() const { return limit_; }
-    /// What it has room for without allocating.
+    /// The number of particles for which there is memory.
     [[nodiscard]] int capacity() const { return static_cast<int>(blocks_.size()) * lanes; }
-    /// Calls visit(block, lane) for every particle in order.
+    /// Calls visit(block, lane) for every particle in the order of their indices.
     template <class Visit>
     void forEach(Visit&& visit) const {
         for (int i = 0; i < size_; ++i)
             visit(blocks_[static_cast<std::size_t>(i / lanes)], i % lanes);
     }
 
-    /// Ignored when size() is limit().
+    /// Does nothing when size() has reached limit().
     void add(const Particle& particle);
+    /// get and set: the index must be below size().
     [[nodiscard]] Particle get(int index) const;
     void set(int index, const Particle& particle);
-    /// The last one takes its place.
+    /// Moves the last particle to this index. Does nothing for an index out of range.
     void remove(int index);
 
-    /// Every particle as by Particle::update, dead ones left in their places.
+    /// Does the same as Particle::update for all particles, but removes none.
     void move(float dt);
-    /// Takes out all that have outlived their time.
+    /// Removes all particles that are dead.
     void removeDead();
-    /// Whether only immortal particles (or none) are left.
+    /// True when there are none or only immortal particles.
     [[nodiscard]] bool onlyImmortal() const;
 
-    /// The smallest rectangle around all particles as last moved, with their sizes; with their
-    /// second places too when twoEnded. False, and nothing written, when there is none.
+    /// A rectangle that contains all particles, with twoEnded also their second places. False
+    /// without particles; out stays as it was then.
     struct Extent {
         float minX, minY, maxX, maxY;
     };

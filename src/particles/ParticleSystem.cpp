@@ -143,7 +143,7 @@ void ParticleSystem::removeObserver(ParticleSystemObserver* observer) {
 }
 
 void ParticleSystem::notifyObservers() {
-    // An observer may take others off, or add some, while it is told.
+    // An observer may remove and add observers during its call.
     while (!observers_.empty()) {
         ParticleSystemObserver* first = observers_.front();
         observers_.erase(observers_.begin());
@@ -175,7 +175,8 @@ bool ParticleSystem::step(float dt, bool offScreen) {
     sinceUpdate_ = 0;
     if (liveCount() == 0 && refill_)
         emitAtSelf();
-    // Stopped without a time: nothing would ever end it, and nothing of it is to be seen any more.
+    // A system that was stopped without a time ends with its last particle. Immortal ones do not
+    // count, because they would keep it for ever.
     if (!emitting_ && remainingLife_ <= 0 && pool_.onlyImmortal())
         alive_ = false;
     return alive_;
@@ -188,7 +189,7 @@ void ParticleSystem::emitForStep(float dt) {
     const float interval = 1.0F / static_cast<float>(flowRate);
     const float wanted = std::min(dt * static_cast<float>(flowRate), static_cast<float>(room()));
     int n = static_cast<int>(wanted);
-    // Summed steps fall a little short of the interval that they make up.
+    // The sum of the steps may be a little less than the interval because of rounding.
     if (n < 1 && sinceEmission_ >= interval * 0.999F)
         n = 1;
     if (n < 1 && systemTime_ >= interval) {
@@ -246,7 +247,8 @@ void ParticleSystem::bind(IRenderer& renderer, const std::string& path, TextureH
         renderer.bindTextureId(handle.id);
         return;
     }
-    // A missing image has no id; its failure is logged at the first try, not in every frame.
+    // The image could not be loaded. It is not tried again in every frame, because each attempt
+    // writes to the log.
     if (handle.resolved) {
         renderer.bindTexture("data/images/fallback.png", false);
         return;
@@ -265,7 +267,7 @@ void ParticleSystem::addQuads(QuadBatch& batch, int variant) const {
     const int steps = definition_->glowSteps;
     pool_.forEach([&](const ParticlePool::Block& p, int i) {
         QuadBatch::Bytes colour = bytes(p, i);
-        // One that has shrunk to nothing stays away instead of growing again mirrored.
+        // A particle that has shrunk to a negative size is not drawn; it would be a mirror image.
         if (colour.a < 1 || p.width[i] <= 0 || p.height[i] <= 0 ||
             (variant >= 0 && p.variant[i] != variant))
             return;

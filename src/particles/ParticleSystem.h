@@ -19,15 +19,15 @@ class Frustum;
 class IRenderer;
 class ParticleSystemObserver;
 
-/// Which class a system is; chosen by the name it is started with.
+/// Which class a system has. The name with which it is started decides.
 enum class ParticleKind { plain, rail, tracer, lightning, plasma, text };
 inline constexpr std::size_t particleKinds = 6;
 
-/// One running effect: a fixed pool of particles that are born at its place, move, change colour
-/// and size and die. Made and owned by the ParticleManager, which gives it up once its life has run
-/// out and then uses the object again: keep a pointer only together with an observer, or keep id()
-/// and ask ParticleManager::find.
-/// The base class draws its particles as quads; derived ones (chosen by name) as beams or text.
+/// A running effect: particles that are born at its position, move, change colour and size and die.
+/// ParticleManager makes and owns all systems and uses the object of one that has ended again for
+/// another one. So whoever keeps a pointer must add an observer, or keep id() and use
+/// ParticleManager::find instead. This class draws particles as quads; derived classes draw them as
+/// beams or as text.
 class ParticleSystem {
   public:
     explicit ParticleSystem(ParticleKind kind = ParticleKind::plain) : kind_(kind) {}
@@ -35,119 +35,130 @@ class ParticleSystem {
     ParticleSystem(const ParticleSystem&) = delete;
     ParticleSystem& operator=(const ParticleSystem&) = delete;
 
-    /// Makes it a fresh system of the definition, without particles, with room for
-    /// definition->maxParticles. Called by the manager, also for objects used again.
+    /// Turns the object into a new system without particles. ParticleManager calls it for new
+    /// objects and for those that it uses again.
     virtual void init(std::shared_ptr<const ParticleSystemParams> definition, int id);
 
     [[nodiscard]] const ParticleSystemParams& definition() const { return *definition_; }
     [[nodiscard]] const std::string& definitionId() const { return definition_->id; }
-    /// Unlike every other living system's; ids are not used again before the manager is cleared.
+    /// Each system has another id, until ParticleManager::clear.
     [[nodiscard]] int id() const { return id_; }
     [[nodiscard]] const Vector& position() const { return position_; }
     [[nodiscard]] const Vector& secondPosition() const { return second_; }
     [[nodiscard]] bool isAlive() const { return alive_; }
     [[nodiscard]] bool isEmitting() const { return emitting_; }
-    /// Has had its particles, makes no more by itself, and nobody watches it.
+    /// True when its particles have died, it will not emit any by itself and it has no observers.
     [[nodiscard]] bool isSpent() const;
     [[nodiscard]] int liveCount() const { return pool_.size(); }
     [[nodiscard]] int maxParticles() const { return pool_.limit(); }
-    /// Room for so many particles from now on, whatever definition it is used with.
+    /// Allocates memory for this many particles, whatever definitions the object is used for.
+    /// Called once, before init.
     void reserve(int particles) {
         pool_.reset(particles);
-        // Most are attached to one body; which of those used again will be, nobody knows.
+        // Most systems have one observer, few have none or two.
         observers_.reserve(2);
     }
+    /// The number of particles for which there is memory.
     [[nodiscard]] int capacity() const { return pool_.capacity(); }
     [[nodiscard]] const ParticlePool& pool() const { return pool_; }
     [[nodiscard]] ParticleKind kind() const { return kind_; }
 
-    /// The time parameter: the system ends when this many seconds are over; 0 or less: it does not
-    /// end by itself (but for its definition's systemLifeTime, which goes on counting).
+    /// Makes the system end after this many seconds. With 0 or less, only the systemLifeTime of the
+    /// definition ends it, which counts in both cases. Values that are not finite are ignored.
     void setRemainingLife(float seconds);
     [[nodiscard]] float remainingLife() const { return remainingLife_; }
-    /// Emits nothing more and ends after this many seconds; with 0 or less, as soon as the last of
-    /// its particles is gone.
+    /// Stops emitting. The system ends after this many seconds; with 0 or less, when its last
+    /// particle has died.
     void stop(float seconds);
 
-    /// Where new particles are born. Those already there stay where they are. The second position
-    /// is the other end of beams. Places that are not finite are ignored.
+    /// Where new particles are born, and the other end of beams; living particles are not moved.
+    /// Positions that are not finite are ignored.
     void setPosition(const Vector& position, const Vector& second);
     void setPosition(const Vector& position) { setPosition(position, position); }
 
-    /// Nothing is emitted beyond maxParticles.
+    /// Emits particles, at most as many as the pool has room for. Positions that are not finite are
+    /// ignored.
     void emit(const Vector& position, const Vector& second, int count);
     void emitOne(const Vector& position, const Vector& second);
-    /// The definition's initialParticles, at the system's position.
+    /// Emits the definition's initialParticles at the system's position.
     void emitInitial();
-    /// The whole effect between two places: what a beam, a bolt or a stream looks like. Others emit
-    /// their initial particles (one at least) at the first place.
+    /// Emits a beam, a bolt or a stream from one place to another. This class emits its
+    /// initialParticles, but at least one, at the first place.
     virtual void emitBetween(const Vector& from, const Vector& to);
     void emitAtSelf() { emitBetween(position_, second_); }
 
-    /// Whether being out of view saves it the work of moving its particles (true at first).
+    /// Whether the manager may move the particles less often and need not draw them while the
+    /// system is out of view; true at first.
     void setCulled(bool culled) { culled_ = culled; }
-    /// An invisible system is moved as ever but not drawn by the manager; its owner draws it with
-    /// ParticleManager::drawSystem (skies do).
+    /// The manager moves an invisible system but does not draw it. Its owner, such as a sky, draws
+    /// it by ParticleManager::drawSystem.
     void setVisible(bool visible) { visible_ = visible; }
     [[nodiscard]] bool isVisible() const { return visible_; }
     [[nodiscard]] bool isCulled() const { return culled_; }
-    /// Starts its effect anew (emitAtSelf) whenever its last particle has died.
+    /// Whether the system calls emitAtSelf each time it has no particles left.
     void setRefill(bool refill) { refill_ = refill; }
 
+    /// Adds an observer, which is not owned; null is ignored. One that is added twice is called
+    /// twice.
     void addObserver(ParticleSystemObserver* observer);
-    /// Takes off one registration of the observer; nothing happens when there is none.
+    /// Removes the observer once. Does nothing when it was not added.
     void removeObserver(ParticleSystemObserver* observer);
-    /// Tells every observer, in the order of their registration, and forgets them.
+    /// Calls the observers in the order in which they were added, and removes them.
     void notifyObservers();
 
-    /// Advances by dt seconds; off screen only the clocks run. False when the system has ended.
+    /// Advances the system by dt seconds. With offScreen it neither emits nor moves particles, but
+    /// its time goes on. False when the system has ended.
     bool update(float dt, bool offScreen);
-    /// Seconds of its own time since its particles were last moved.
+    /// Seconds since the particles were last moved.
     [[nodiscard]] float sinceLastStep() const { return sinceUpdate_; }
 
-    /// Draws with one drawQuads call a texture. Leaves texture and blending as it used them.
+    /// Draws the particles with one call of drawQuads for each texture. Texture and blending stay
+    /// as it has set them.
     virtual void draw(IRenderer& renderer, QuadBatch& batch);
-    /// Forgets the texture, which is fetched again by name at the next drawing.
+    /// Makes the next call of draw look up the textures by their names again.
     virtual void forgetTextures() { texture_ = {}; }
 
-    /// True when nothing of it, the place where new particles appear included, is in the view.
+    /// True when neither its position nor a particle is in the view.
     [[nodiscard]] bool isOutside(const Frustum& view) const;
 
   protected:
-    /// A texture of the renderer by name; the id is fetched at first use.
+    /// The renderer's id of a texture; -1 before it was looked up and when there is no image.
     struct TextureHandle {
         bool resolved = false;
         int id = -1;
     };
 
-    /// One step; false when the system has ended.
+    /// Does the work of update for a dt that is finite and not negative.
     virtual bool step(float dt, bool offScreen);
-    /// Called for each particle before it moves when usesParticleHook() is true.
+    /// Called for each particle before it is moved, if usesParticleHook() is true.
     virtual void updateParticle(float dt, Particle& particle);
     [[nodiscard]] virtual bool usesParticleHook() const { return false; }
-    /// Whether its particles reach to their second places, too.
+    /// Whether the particles are drawn as far as their second places.
     [[nodiscard]] virtual bool drawsBeams() const { return false; }
-    /// Where a particle born at origin starts and how fast.
+    /// Sets the position and velocity of a particle that is born at origin.
     virtual void spawnShape(const Vector& origin, Vector& position, Vector& velocity);
-    /// Puts a new particle into the next free place of the pool, if there is one; derived systems
-    /// finish it first.
+    /// Adds a new particle to the pool if that has room. Derived classes may change it first.
     virtual void addParticle(Particle& particle);
     void removeParticle(int index) { pool_.remove(index); }
 
+    /// The number of particles that may be added.
     [[nodiscard]] int room() const { return pool_.limit() - pool_.size(); }
-    /// Blending on, in the definition's mode.
+    /// Turns blending on in the mode of the definition.
     void setBlendMode(IRenderer& renderer) const;
-    /// Binds the image; an empty name turns texturing off.
+    /// Binds a texture by its id or, the first time, by its name. An empty name turns texturing
+    /// off.
     static void bind(IRenderer& renderer, const std::string& path, TextureHandle& handle);
-    /// Adds the particles of a variant (all of them when it is negative) as upright quads.
+    /// Adds the particles with this variant to the batch as upright quads; all particles when
+    /// variant is negative.
     void addQuads(QuadBatch& batch, int variant) const;
-    /// The colour of the lane as it is drawn.
+    /// The colour of a particle for drawing.
     static QuadBatch::Bytes bytes(const ParticlePool::Block& block, int lane);
 
     TextureHandle texture_;
     ParticlePool pool_;
 
   private:
+    /// Emits the particles that the definition's flowRate asks for in dt seconds.
     void emitForStep(float dt);
     void moveParticles(float dt);
 
@@ -156,8 +167,8 @@ class ParticleSystem {
     Vector position_;
     Vector second_;
     std::vector<ParticleSystemObserver*> observers_;
-    /// Its age. The other clocks run from the event they count from, since an old system's age is
-    /// too coarse to take short times from.
+    /// Seconds since the start, the last movement and the last emission. They are counted
+    /// separately, because the first one becomes too coarse for differences in a long run.
     float systemTime_ = 0;
     float sinceUpdate_ = 0;
     float sinceEmission_ = 0;

@@ -6,17 +6,15 @@ namespace bc {
 
 class ParticleSystem;
 
-/// Told when a particle system ends, so that whoever keeps a pointer to the system lets go of it.
-/// Systems do not own their observers: an observer takes itself off (removeObserver) before it
-/// goes away.
+/// Is called when a particle system ends, so that it can drop its pointer to the system. Systems do
+/// not own their observers: an observer must call removeObserver before it is deleted.
 class ParticleSystemObserver {
   public:
     virtual ~ParticleSystemObserver() = default;
 
-    /// Called once for each registration, by the particle manager, just before the system is given
-    /// up: when its life has run out and when all systems are cleared. The system is already out of
-    /// the manager's list; the pointer is no longer valid after the call. The observer need not
-    /// take itself off here. New systems may be started.
+    /// ParticleManager calls it when the system's time is over and when all systems are cleared.
+    /// The system is not in the manager's list any more, and pointers to it are invalid after the
+    /// call. The observer need not remove itself here. It may start new systems.
     virtual void onParticleSystemEnded(ParticleSystem& system) = 0;
 };
 

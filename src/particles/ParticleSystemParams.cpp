@@ -11,7 +11,8 @@ namespace bc {
 
 namespace {
 
-/// Beyond any level and any wait; its products stay far from the end of the float range.
+/// The limit for numbers of a definition. It is larger than any level, and products of two such
+/// numbers are still far from the largest float.
 constexpr float largest = 1e6F;
 
 float bounded(float value) {
@@ -39,7 +40,8 @@ float readFloat(const TiXmlElement& e, const char* name) {
     return bounded(xml::readFloat(e, name));
 }
 
-/// A count from 0 to limit; an attribute that is not there gives missing.
+/// An attribute as a number from 0 to limit, or `missing` without the attribute. The log tells when
+/// a number was above the limit.
 int readCount(const TiXmlElement& e, const char* name, int missing, int limit,
               const std::string& id) {
     if (!xml::has(e, name))

@@ -6,22 +6,22 @@
 
 namespace bc {
 
-/// "plasma": a stream of glowing blobs along the shot that curl as they drift apart, each with one
-/// of four images, and a burst where it ends.
+/// "plasma": a stream of glowing particles along a shot and a burst at its end. The particles drift
+/// on curved paths; each has one of four images.
 class PlasmaParticleSystem final : public VariantParticleSystem {
   public:
-    /// World units between two blobs of the stream.
+    /// World units between two particles of the stream.
     static constexpr float spacing = 9;
-    /// Radians a second by which the drift of a blob turns; the other way round for every second
-    /// image.
+    /// Radians a second by which the velocity of a particle turns; particles with the second and
+    /// fourth image turn the other way.
     static constexpr float curl = 9;
 
     PlasmaParticleSystem();
-    /// The images besides the definition's.
+    /// The names of the images besides the one of the definition.
     [[nodiscard]] static std::span<const std::string> extraImages();
 
-    /// The definition's initial particles at the second place, and the stream from the first place
-    /// on as far as the rest of the pool reaches.
+    /// Emits the definition's initialParticles at the second place and a stream that begins at the
+    /// first one. The stream ends early when the pool is full.
     void emitBetween(const Vector& from, const Vector& to) override;
 
   protected:

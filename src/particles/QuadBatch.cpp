@@ -32,7 +32,7 @@ void QuadBatch::addBeam(const Vector& a, const Vector& b, float z, float halfWid
     const float length = std::hypot(dx, dy);
     if (!(length > 0))
         return;
-    // Across the beam, to its left.
+    // From the line to the left edge of the beam.
     const float px = -dy / length * halfWidth;
     const float py = dx / length * halfWidth;
     const float s = flip ? 1.0F : 0.0F;

@@ -11,11 +11,11 @@
 
 namespace bc {
 
-/// Collects quads and hands them to the renderer in one call. Its memory is kept from batch to
-/// batch, so that drawing allocates nothing once the largest one has been seen.
+/// Collects quads and passes them to the renderer in one call. It keeps its memory, so that only a
+/// batch larger than all before it allocates. Places and sizes are world units.
 class QuadBatch {
   public:
-    /// No beam is cut into more pieces than this; longer ones get longer pieces.
+    /// The limit for the pieces of a segmented beam. The pieces of a longer beam are longer.
     static constexpr int pieceLimit = 512;
 
     struct Bytes {
@@ -25,23 +25,24 @@ class QuadBatch {
     void clear() { used_ = 0; }
     [[nodiscard]] std::size_t quads() const { return used_ / 4; }
 
-    /// The whole image, centred on (x, y), upright.
+    /// Adds an upright quad with the centre x, y.
     void addCentred(float x, float y, float z, float halfWidth, float halfHeight, Bytes colour);
-    /// A band from a to b that reaches halfWidth to either side, the image once along it (its lower
-    /// edge at a). flip mirrors it sideways. Nothing when a and b are one place.
+    /// Adds a band from a to b that reaches halfWidth to either side. The image covers it once, its
+    /// lower edge at a; flip mirrors the image sideways. Adds nothing when a equals b.
     void addBeam(const Vector& a, const Vector& b, float z, float halfWidth, Bytes colour,
                  bool flip);
-    /// The same as a chain of pieces pieceLength long, the last one cut at b.
+    /// Adds the same band as a chain of pieces with pieceLength each; the last one may be shorter.
     void addSegmentedBeam(const Vector& a, const Vector& b, float z, float halfWidth,
                           float pieceLength, Bytes colour);
 
-    /// One drawQuads call with everything collected, none when that is nothing; empty afterwards.
+    /// Draws and removes all quads; without quads it does not call the renderer.
     void flush(IRenderer& renderer);
 
   private:
+    /// Memory for the four corners of one more quad.
     QuadVertex* grow();
 
-    /// Grown only; the first used_ corners are the batch.
+    /// Never shrinks; the first used_ corners belong to the batch.
     std::vector<QuadVertex> corners_;
     std::size_t used_ = 0;
 };

@@ -9,8 +9,8 @@ namespace bc {
 
 namespace {
 
-/// Makes the face current whose pixels need least scaling; its size. Small texts are set in the
-/// debugging face where it is installed.
+/// Chooses the font that needs the least scaling for a text of this height and returns the font's
+/// size. Small texts get the font "debug" if it is installed.
 int chooseFace(FontRenderer& fonts, float height) {
     if (height <= 13) {
         fonts.setFont("vera", 12);

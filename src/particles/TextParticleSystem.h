@@ -9,11 +9,11 @@
 
 namespace bc {
 
-/// "text": a short text that floats in the world: every particle is drawn as the system's text,
-/// centred on it, in its colour and as high as it is.
+/// "text": a short text that floats in the world. Each particle is drawn as the text of the system,
+/// with the particle's centre, colour and height.
 class TextParticleSystem final : public ParticleSystem {
   public:
-    /// Bytes kept of a text; the rest is cut off.
+    /// The limit for a text in bytes; a longer one is cut off.
     static constexpr std::size_t textLimit = 64;
 
     TextParticleSystem() : ParticleSystem(ParticleKind::text) {}

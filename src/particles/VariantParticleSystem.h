@@ -11,8 +11,8 @@
 
 namespace bc {
 
-/// Base of systems with several images: each particle is drawn with one of them, chosen at its
-/// birth with equal chances. The first image is the definition's. One drawing call an image.
+/// Base of the systems with several images. Each particle gets one of them at its birth, all with
+/// equal chances; the first one is the definition's. Each image takes one drawing call.
 class VariantParticleSystem : public ParticleSystem {
   public:
     static constexpr std::size_t extraImageLimit = 3;
@@ -22,13 +22,14 @@ class VariantParticleSystem : public ParticleSystem {
     void forgetTextures() final;
 
   protected:
-    /// extraImages: the names of the second image and those after it; they outlive the system.
+    /// extraImages are the names of the other images, at most extraImageLimit. They must outlive
+    /// the system.
     VariantParticleSystem(ParticleKind kind, std::span<const std::string> extraImages)
         : ParticleSystem(kind),
           extraImages_(extraImages.first(std::min(extraImages.size(), extraImageLimit))) {}
 
     void addParticle(Particle& particle) final;
-    /// Adds the particles with that image to the batch.
+    /// Adds the particles with this index of an image to the batch.
     virtual void addVariant(QuadBatch& batch, int variant) const = 0;
 
   private:
