@@ -8,75 +8,59 @@
 namespace bc {
 namespace {
 
+/// A timer that was started when the clock showed 5000 and has measured 340 ms since.
 class BasicTimerTest : public testing::Test {
   protected:
     BasicTimerTest() {
         useVirtualTicks(5000);
         timer.restart();
+        tickAfter(300);
+        tickAfter(40);
     }
     ~BasicTimerTest() override { useRealTicks(); }
 
-    void pass(std::uint32_t ms) {
+    void tickAfter(std::uint32_t ms) {
         advanceVirtualTicks(ms);
         timer.tick();
     }
 
-    BasicTimer timer;
+    BasicTimer timer{.paused = true};
 };
 
-TEST_F(BasicTimerTest, MeasuresFromStartAndBetweenTicks) {
-    pass(100);
-    pass(16);
-    EXPECT_EQ(timer.elapsed(), 116);
-    EXPECT_FLOAT_EQ(timer.elapsedSeconds(), 0.116F);
-    EXPECT_FLOAT_EQ(timer.frameSeconds(), 0.016F);
+TEST_F(BasicTimerTest, MeasuresFromTickToTickWithoutPauses) {
+    EXPECT_FALSE(timer.paused);
     advanceVirtualTicks(1000);
-    EXPECT_EQ(timer.elapsed(), 116) << "stands until its owner ticks it";
-}
-
-TEST_F(BasicTimerTest, PausedTimeDoesNotCount) {
-    pass(300);
-    pass(40);
+    EXPECT_EQ(timer.elapsed(), 340) << "stays the same until the next tick";
     timer.pause();
-    EXPECT_TRUE(timer.paused);
-    advanceVirtualTicks(5000);
+    advanceVirtualTicks(4000);
     timer.resume();
     EXPECT_FALSE(timer.paused);
-    EXPECT_EQ(timer.elapsed(), 340);
     EXPECT_EQ(timer.current, ticksNow());
     EXPECT_FLOAT_EQ(timer.frameSeconds(), 0.04F);
-    pass(25);
-    EXPECT_EQ(timer.elapsed(), 365);
+    tickAfter(25);
+    EXPECT_FLOAT_EQ(timer.elapsedSeconds(), 0.365F);
 }
 
-TEST_F(BasicTimerTest, ReadBackLaterItHasElapsedAsMuch) {
-    pass(11980);
-    pass(20);
-    const std::string saved = timer.toString();
-    EXPECT_EQ(saved, "5000,17000,16980,1000,true");
-
+TEST_F(BasicTimerTest, ReadsBackItsElapsedTimeAtAnotherTime) {
+    EXPECT_EQ(timer.toString(), "5000,5340,5300,1000,true");
     useVirtualTicks(100);
-    BasicTimer loaded;
-    loaded.running = false;
-    loaded.fromString(saved);
-    EXPECT_EQ(loaded.elapsed(), 12000);
-    EXPECT_EQ(loaded.current, 100);
-    EXPECT_FLOAT_EQ(loaded.frameSeconds(), 0.02F);
-    EXPECT_EQ(loaded.rate, 1000);
-    EXPECT_TRUE(loaded.running);
-}
-
-TEST_F(BasicTimerTest, ShortTextIsIgnoredButTheTimesStillMove) {
-    pass(500);
-    const float rate = timer.rate;
-    advanceVirtualTicks(2500);
-    timer.fromString("1,2,3,4");
-    EXPECT_EQ(timer.current, ticksNow());
-    EXPECT_EQ(timer.elapsed(), 500);
-    EXPECT_EQ(timer.rate, rate);
-    timer.fromString("1,2,3,4,True");
-    EXPECT_FALSE(timer.running) << "only \"true\" is true";
-    EXPECT_EQ(timer.elapsed(), 1);
+    struct Case {
+        std::string text;
+        float elapsed, frame, rate;
+        bool running;
+    };
+    for (const Case& c :
+         {Case{timer.toString(), 340, 0.04F, 1000, true}, Case{"1,9,5,4,True", 8, 0.004F, 4, false},
+          Case{"too,few,numbers,7", 500, 0.02F, 60, true}}) {
+        BasicTimer loaded{.start = 20, .current = 520, .previous = 500, .rate = 60, .paused = true};
+        loaded.fromString(c.text);
+        EXPECT_EQ(loaded.elapsed(), c.elapsed) << c.text;
+        EXPECT_EQ(loaded.current, 100) << c.text;
+        EXPECT_FLOAT_EQ(loaded.frameSeconds(), c.frame) << c.text;
+        EXPECT_EQ(loaded.rate, c.rate) << c.text;
+        EXPECT_EQ(loaded.running, c.running) << c.text;
+        EXPECT_FALSE(loaded.paused) << c.text;
+    }
 }
 
 }  // namespace

@@ -7,33 +7,20 @@
 namespace bc {
 namespace {
 
-TEST(ColourCycler, LandsOnTheBoundItPassesAndTurnsRound) {
+TEST(ColourCycler, TurnsRoundOnlyWhenItWouldPassABound) {
     ColourCycler cycler;
-    cycler.setMin(0);
+    cycler.setMin(-1);
     cycler.setMax(255);
-    cycler.setSpeed(100);
-    cycler.setCurrent(250);
+    cycler.setSpeed(64);
+    cycler.setCurrent(239);
     cycler.setRising(true);
-
-    cycler.update(0.1F);
-    EXPECT_EQ(cycler.getCurrent(), 255);
-    EXPECT_FALSE(cycler.isRising());
-    cycler.update(0.1F);
-    EXPECT_EQ(cycler.getCurrent(), 245);
-    cycler.update(100);
-    EXPECT_EQ(cycler.getCurrent(), 0);
-    EXPECT_TRUE(cycler.isRising());
-}
-
-TEST(ColourCycler, ReachingABoundExactlyDoesNotTurn) {
-    ColourCycler cycler;
-    cycler.setMin(0);
-    cycler.setMax(10);
-    cycler.setSpeed(10);
-    cycler.setRising(true);
-    cycler.update(1);
-    EXPECT_EQ(cycler.getCurrent(), 10);
-    EXPECT_TRUE(cycler.isRising());
+    const float steps[][3] = {
+        {0.25F, 255, 1}, {0.25F, 255, 0}, {0.25F, 239, 0}, {3.75F, -1, 0}, {0.25F, -1, 1}};
+    for (const auto& [seconds, value, rising] : steps) {
+        cycler.update(seconds);
+        EXPECT_EQ(cycler.getCurrent(), value);
+        EXPECT_EQ(cycler.isRising(), rising == 1);
+    }
 }
 
 }  // namespace

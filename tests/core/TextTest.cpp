@@ -19,11 +19,9 @@ std::vector<std::string> tokens(std::string_view delimiters, std::string_view te
 }
 
 TEST(Text, TokensAreNeverEmpty) {
-    EXPECT_THAT(tokens(",", ",,3,,4,"), ElementsAre("3", "4"));
-    EXPECT_THAT(tokens(" x", "640   x 480"), ElementsAre("640", "480"));
+    EXPECT_THAT(tokens(" x", " 640   x 480"), ElementsAre("640", "480"));
     EXPECT_THAT(tokens(",", "alone"), ElementsAre("alone"));
     EXPECT_THAT(tokens(",", ",,,"), IsEmpty());
-    EXPECT_THAT(tokens(",", ""), IsEmpty());
 }
 
 TEST(Text, ComparesWithoutCase) {
@@ -41,18 +39,12 @@ TEST(Text, ComparesWithoutCase) {
 }
 
 TEST(Text, SplitsAtTheLastDot) {
-    std::string base = "old";
+    std::string base = "save.one.xml";
     std::string extension = "old";
-    EXPECT_TRUE(splitExtension("save.one.xml", base, extension));
-    EXPECT_EQ(base, "save.one");
-    EXPECT_EQ(extension, ".xml");
-    // In place: what is read may be what is written.
-    EXPECT_TRUE(splitExtension(base, base, extension));
-    EXPECT_EQ(base, "save");
-    EXPECT_EQ(extension, ".one");
+    EXPECT_TRUE(splitExtension(base, base, extension)) << "in place";
+    EXPECT_EQ(base + '|' + extension, "save.one|.xml");
     EXPECT_FALSE(splitExtension("noextension", base, extension));
-    EXPECT_EQ(base, "");
-    EXPECT_EQ(extension, "");
+    EXPECT_EQ(base + extension, "");
 }
 
 TEST(Text, FormatsFloatsWithSixDigits) {
