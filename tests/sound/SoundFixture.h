@@ -4,6 +4,7 @@
 
 #include "core/Ticks.h"
 #include "sound/Sound.h"
+#include "support/Bytes.h"
 #include "support/ConsoleFixture.h"
 
 #include <tinyxml.h>
@@ -13,14 +14,6 @@
 #include <vector>
 
 namespace bc {
-
-/// A number's low bytes, lowest first.
-inline std::string little(std::uint64_t value, int count) {
-    std::string out;
-    for (int i = 0; i < count; ++i)
-        out += static_cast<char>(value >> (8 * i) & 0xff);
-    return out;
-}
 
 inline std::string wav(const std::string& samples, std::uint32_t rate = 44100, int outputs = 1,
                        int bits = 16, int format = 1) {
